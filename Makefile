@@ -3,17 +3,23 @@
 #   make check        every test (installs what it needs)
 #   make test-host    host tests of the chip library and model
 #
-# Kernel module builds go through Kbuild (see README.md).
+# The virtual board (board/board.mk) and the kernel module build
+# (mk/kmod.mk) add their own targets and extend CHECK_TARGETS.
 
 BUILD ?= build
 HOST_BUILD := $(BUILD)/host
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
+CHECK_TARGETS := test-host
+
 .PHONY: all check test-host deps-host clean
 
 all: test-host
 
-check: test-host
+-include mk/kmod.mk
+-include board/board.mk
+
+check: $(CHECK_TARGETS)
 
 deps-host:
 	@scripts/ensure-deps.sh host
