@@ -71,6 +71,15 @@ static u16 *page_reg(struct rtl8309n_sim *s, u32 addr)
 	return addr == PAGECTL_ADDR ? &s->pagectl : &s->phy_page[addr];
 }
 
+/*
+ * The PHYs' page registers answer only in PHY mode: in switch mode register
+ * 31 of addresses 0..7 is a plain switch register (VLAN entry 15, say).
+ */
+static int is_page_reg(const struct rtl8309n_sim *s, u32 addr, u32 reg)
+{
+	return reg == PAGE_REG && (addr == PAGECTL_ADDR || (s->pagectl & PAGECTL_PHY_MODE));
+}
+
 static const struct sim_handler *find_handler(const struct sim_loc *loc)
 {
 	u32 i;
@@ -165,7 +174,7 @@ int rtl8309n_sim_mdio_read(struct rtl8309n_sim *s, u32 addr, u32 reg)
 		log_txn(s, 0, addr, reg, NULL, 0xFFFF);
 		return 0xFFFF;		/* nobody answers: the bus floats high */
 	}
-	if (reg == PAGE_REG) {
+	if (is_page_reg(s, addr, reg)) {
 		value = *page_reg(s, addr);
 		log_txn(s, 0, addr, reg, NULL, value);
 		return value;
@@ -196,7 +205,7 @@ int rtl8309n_sim_mdio_write(struct rtl8309n_sim *s, u32 addr, u32 reg, u16 value
 		log_txn(s, 1, addr, reg, NULL, value);
 		return 0;
 	}
-	if (reg == PAGE_REG) {
+	if (is_page_reg(s, addr, reg)) {
 		*page_reg(s, addr) = value;
 		log_txn(s, 1, addr, reg, NULL, value);
 		return 0;

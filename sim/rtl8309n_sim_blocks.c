@@ -189,6 +189,45 @@ static void mib_reset_write(struct rtl8309n_sim *s, const struct sim_loc *loc,
 		rtl8309n_sim_busy_start(s, loc, started);
 }
 
+/* ---- Loop detection and wake-up status: page 14 ---- */
+
+#define STATUS_PAGE		14
+#define RLDP_ADDR		4
+#define RLDP_STATUS		20
+#define WKP_ADDR		7
+#define WKP_LINK_STATUS		22
+#define WKP_FRAME		25
+#define WKP_FRAME_STATUS	BIT16(2)
+
+/* The frame wake-up flags are writable; the status bit beside them is not. */
+static void wkp_frame_write(struct rtl8309n_sim *s, const struct sim_loc *loc,
+			    u16 old, u16 *cell)
+{
+	(void)s;
+	(void)loc;
+	*cell = (u16)((*cell & ~WKP_FRAME_STATUS) | (old & WKP_FRAME_STATUS));
+}
+
+/* ---- QoS soft reset (0, 16, 14) bit 1: self-clearing ---- */
+
+#define QOS_RESET_ADDR		0
+#define QOS_RESET_PAGE		14
+#define QOS_RESET_REG		16
+#define QOS_RESET_BIT		BIT16(1)
+
+static void qos_reset_write(struct rtl8309n_sim *s, const struct sim_loc *loc,
+			    u16 old, u16 *cell)
+{
+	(void)old;
+	if (*cell & QOS_RESET_BIT)
+		rtl8309n_sim_busy_start(s, loc, QOS_RESET_BIT);
+}
+
+/* ---- MAC port status: (2, 18..22, 14), read-only ---- */
+
+#define EXT0_STATUS_ADDR	2
+#define EXT0_STATUS_PAGE	14
+
 const struct sim_handler rtl8309n_sim_handlers[] = {
 	/* space            addresses      page reg  on_write          on_read */
 	{ SIM_SPACE_PHY,    ALL_PHYS,      0,   0,   mii_ctrl_write,   NULL },
@@ -200,6 +239,16 @@ const struct sim_handler rtl8309n_sim_handlers[] = {
 	{ SIM_SPACE_SWITCH, ADDR(ACL_ADDR), ACL_PAGE, ACL_CMD, acl_cmd_write, NULL },
 	{ SIM_SPACE_SWITCH, ADDR(MIB_ADDR), MIB_PAGE, MIB_SELECT, mib_select_write, NULL },
 	{ SIM_SPACE_SWITCH, ADDR(MIB_ADDR), MIB_PAGE, MIB_RESET, mib_reset_write, NULL },
+	{ SIM_SPACE_SWITCH, ADDR(QOS_RESET_ADDR), QOS_RESET_PAGE, QOS_RESET_REG,
+	  qos_reset_write, NULL },
+	{ SIM_SPACE_SWITCH, ADDR(EXT0_STATUS_ADDR), EXT0_STATUS_PAGE, 18, read_only_write, NULL },
+	{ SIM_SPACE_SWITCH, ADDR(EXT0_STATUS_ADDR), EXT0_STATUS_PAGE, 19, read_only_write, NULL },
+	{ SIM_SPACE_SWITCH, ADDR(EXT0_STATUS_ADDR), EXT0_STATUS_PAGE, 20, read_only_write, NULL },
+	{ SIM_SPACE_SWITCH, ADDR(EXT0_STATUS_ADDR), EXT0_STATUS_PAGE, 21, read_only_write, NULL },
+	{ SIM_SPACE_SWITCH, ADDR(EXT0_STATUS_ADDR), EXT0_STATUS_PAGE, 22, read_only_write, NULL },
+	{ SIM_SPACE_SWITCH, ADDR(RLDP_ADDR), STATUS_PAGE, RLDP_STATUS, read_only_write, NULL },
+	{ SIM_SPACE_SWITCH, ADDR(WKP_ADDR), STATUS_PAGE, WKP_LINK_STATUS, read_only_write, NULL },
+	{ SIM_SPACE_SWITCH, ADDR(WKP_ADDR), STATUS_PAGE, WKP_FRAME, wkp_frame_write, NULL },
 };
 
 const u32 rtl8309n_sim_handler_count =

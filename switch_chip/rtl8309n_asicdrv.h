@@ -89,30 +89,532 @@ s32 rtl8309n_phyRegBit_get(u32 phyad, u32 regad, u32 bit, u32 npage, u32 *pvalue
 
 /* ---- Chip initialisation, PHY reset, maximum packet length (rtl8309n_switch.c) ---- */
 
+/* Maximum frame length modes of the chip. */
+#define RTL8309N_MAXPKTLEN_1518		0
+#define RTL8309N_MAXPKTLEN_USER		1	/* length programmed, 0..4095 */
+#define RTL8309N_MAXPKTLEN_2048		2
+#define RTL8309N_MAXPKTLEN_16000	3
+
+/* Nothing to set up on this chip. */
+s32 rtl8309n_asic_init(void);
+/* Software reset of the embedded PHY @phy (0..7); see the poll notes in the source. */
+s32 rtl8309n_phy_reset(u32 phy);
+/* @len is used by RTL8309N_MAXPKTLEN_USER only (bits 11..0). */
+s32 rtl8309n_switch_maxPktLen_set(u32 type, u32 len);
+s32 rtl8309n_switch_maxPktLen_get(u32 *ptype, u32 *plen);
+
 /* ---- Port MAC and PHY control (rtl8309n_port.c) ---- */
+
+/* Interface modes of the MAC port (port 8); 0 and 1 run at double rate. */
+#define RTL8309N_EXT0_MODE_NUM		6
+
+/* Speeds of the MAC port record; the double rates follow from the mode. */
+#define RTL8309N_PORT_SPEED_10M		0
+#define RTL8309N_PORT_SPEED_20M		1
+#define RTL8309N_PORT_SPEED_100M	2
+#define RTL8309N_PORT_SPEED_200M	3
+
+/*
+ * Forced link (or, from rtl8309n_port_macAbilityExt0_get, the status) of the
+ * MAC port.  Flags are 1 or 0; nway is not part of the status.
+ */
+struct rtl8309n_port_macAbility {
+	u32 speed;	/* RTL8309N_PORT_SPEED_* */
+	u32 duplex;	/* 1: full duplex */
+	u32 link;	/* 1: link up */
+	u32 nway;	/* 1: auto-negotiation, 0: forced */
+	u32 txpause;	/* 1: sends PAUSE frames */
+	u32 rxpause;	/* 1: obeys PAUSE frames */
+};
+
+/* Embedded PHYs, ports 0..7 (PHY 7's link is not read: reported down). */
+s32 rtl8309n_port_phyLinkStatus_get(u32 port, u32 *plinkStatus);
+s32 rtl8309n_port_phyAutoNegoDone_get(u32 port, u32 *pdone);
+s32 rtl8309n_port_phyLoopback_set(u32 port, u32 enabled);
+s32 rtl8309n_port_phyLoopback_get(u32 port, u32 *penabled);
+/* Ports 0..8. */
+s32 rtl8309n_port_MacLearnEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_port_MacLearnEnable_get(u32 port, u32 *penabled);
+s32 rtl8309n_port_isolation_set(u32 port, u32 portmask);
+s32 rtl8309n_port_isolation_get(u32 port, u32 *pportmask);
+/* The MAC port: mode 0..5 and forced link. */
+s32 rtl8309n_port_macForceLinkExt0_set(u32 mode, const struct rtl8309n_port_macAbility *pability);
+s32 rtl8309n_port_macForceLinkExt0_get(u32 *pmode, struct rtl8309n_port_macAbility *pability);
+s32 rtl8309n_port_macAbilityExt0_get(u32 *pmode, struct rtl8309n_port_macAbility *pstatus);
 
 /* ---- VLAN registers and table (rtl8309n_vlan.c) ---- */
 
+#define RTL8309N_VLAN_ENTRY_NUM		16
+#define RTL8309N_VLAN_MAX_VID		4095
+#define RTL8309N_VLAN_MAX_FID		3
+#define RTL8309N_VLAN_LEAKY_TYPES	6	/* types 0..5; 5 has no bit */
+/* Actions for a VID that matches no entry. */
+#define RTL8309N_VLAN_UNMATCH_ACT_2	2
+#define RTL8309N_VLAN_UNMATCH_ACT_3	3
+
+/* Global control.  Enable setters take exactly 1 as enable. */
+s32 rtl8309n_vlan_enable_set(s32 enabled);
+s32 rtl8309n_vlan_enable_get(u32 *penabled);
+s32 rtl8309n_vlan_igrFilterEnable_set(s32 enabled);
+s32 rtl8309n_vlan_igrFilterEnable_get(u32 *penabled);
+s32 rtl8309n_vlan_unmatchVidAction_set(u32 action);
+s32 rtl8309n_vlan_unmatchVidAction_get(u32 *paction);
+s32 rtl8309n_vlan_leakyEnable_set(u32 type, u32 enabled);
+s32 rtl8309n_vlan_leakyEnable_get(u32 type, u32 *penabled);
+s32 rtl8309n_vlan_fixMcastFidEnable_set(s32 enabled);
+s32 rtl8309n_vlan_fixMcastFidEnable_get(u32 *penabled);
+s32 rtl8309n_vlan_fixMcastFid_set(u32 fid);
+s32 rtl8309n_vlan_fixMcastFid_get(u32 *pfid);
+/* Per port 0..8. */
+s32 rtl8309n_vlan_portAcceptFrameType_set(u32 port, u32 type);
+s32 rtl8309n_vlan_portAcceptFrameType_get(u32 port, u32 *ptype);
+s32 rtl8309n_vlan_tagAwareEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_vlan_tagAwareEnable_get(u32 port, u32 *penabled);
+s32 rtl8309n_vlan_discardNonPvidPktEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_vlan_discardNonPvidPktEnable_get(u32 port, u32 *penabled);
+s32 rtl8309n_vlan_portPvidIndex_set(u32 port, u32 index);
+s32 rtl8309n_vlan_portPvidIndex_get(u32 port, u32 *pindex);
+s32 rtl8309n_vlan_nullVidReplaceEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_vlan_nullVidReplaceEnable_get(u32 port, u32 *penabled);
+s32 rtl8309n_vlan_tagInsertRemove_set(u32 port, u32 mode);
+s32 rtl8309n_vlan_tagInsertRemove_get(u32 port, u32 *pmode);
+s32 rtl8309n_vlan_igrPortTagInsertEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_vlan_igrPortTagInsertEnable_get(u32 port, u32 *penabled);
+s32 rtl8309n_vlan_igrPortTagInsert_set(u32 port, u32 portmask);
+s32 rtl8309n_vlan_igrPortTagInsert_get(u32 port, u32 *pportmask);
+/* Table entry 0..15; VID 0 marks a free entry. */
+s32 rtl8309n_vlan_entry_set(u32 index, u32 vid, u32 mbrmsk, u32 untagmsk, u32 fid);
+s32 rtl8309n_vlan_entry_get(u32 index, u32 *pvid, u32 *pmbrmsk, u32 *puntagmsk, u32 *pfid);
+/* Every port in VLAN 1 (entry 0), other entries free, filtering off, VLAN on. */
+s32 rtl8309n_vlan_init(void);
+
 /* ---- CPU port and CPU tag (rtl8309n_cpu.c) ---- */
+
+#define RTL8309N_CPU_PORT_NONE		9	/* port number meaning "no CPU port" */
+/* Actions for a CPU tag received on another port. */
+#define RTL8309N_CPU_NONCPU_RXTAG_ACT_0	0
+#define RTL8309N_CPU_NONCPU_RXTAG_ACT_3	3
+
+/* Enable setters take exactly 1 as enable. */
+s32 rtl8309n_cpu_enable_set(s32 enabled);
+s32 rtl8309n_cpu_enable_get(u32 *penabled);
+s32 rtl8309n_cpu_portNumber_set(u32 port);
+s32 rtl8309n_cpu_portNumber_get(u32 *pport);
+s32 rtl8309n_cpu_cpuTagAwareEnable_set(s32 enabled);
+s32 rtl8309n_cpu_cpuTagAwareEnable_get(u32 *penabled);
+s32 rtl8309n_cpu_tagInsertEnable_set(s32 enabled);
+s32 rtl8309n_cpu_tagInsertEnable_get(u32 *penabled);
+s32 rtl8309n_cpu_tagRemoveEnable_set(s32 enabled);
+s32 rtl8309n_cpu_tagRemoveEnable_get(u32 *penabled);
+s32 rtl8309n_cpu_nonCpuPortRxCpuTag_set(u32 action);
+s32 rtl8309n_cpu_nonCpuPortRxCpuTag_get(u32 *paction);
+s32 rtl8309n_cpu_learnEnable_set(s32 enabled);
+s32 rtl8309n_cpu_learnEnable_get(u32 *penabled);
+s32 rtl8309n_cpu_checkCrcEnable_set(s32 enabled);
+s32 rtl8309n_cpu_checkCrcEnable_get(u32 *penabled);
+/* Port 0..9; 9 names no bit: set writes nothing, get reports 0. */
+s32 rtl8309n_cpu_tagInsertMask_set(u32 port, s32 enabled);
+s32 rtl8309n_cpu_tagInsertMask_get(u32 port, u32 *penabled);
+/* The CPU port (9: none) and whether CPU tags are inserted towards it. */
+s32 rtl8309n_cpu_port_get(u32 *pport, u32 *ptag);
+/* Make @port (0..8) the CPU port, with CPU-tag insertion when @tag != 0. */
+s32 rtl8309n_cpu_port_set(u32 port, u32 tag);
 
 /* ---- QoS priority sources, remapping, queues (rtl8309n_qos_pri.c) ---- */
 
+#define RTL8309N_QOS_MAX_PRI		3	/* internal priorities 0..3 */
+#define RTL8309N_QOS_MAX_QUEUE		3
+#define RTL8309N_QOS_MAX_1P		7
+#define RTL8309N_QOS_MAX_DSCP		63
+#define RTL8309N_QOS_MAX_WRR_WEIGHT	127
+
+/* Priority sources, by the register layer's code; 0, 5 and 6 name none. */
+#define RTL8309N_PRISRC_PORT		1
+#define RTL8309N_PRISRC_DOT1Q		2
+#define RTL8309N_PRISRC_DSCP		3
+#define RTL8309N_PRISRC_IP_ADDR		4
+#define RTL8309N_PRISRC_ACL		7
+
+/* Arbitration weights (0..3) between priority sources, in record order. */
+enum rtl8309n_qos_weight {
+	RTL8309N_WEIGHT_PORT = 0,
+	RTL8309N_WEIGHT_DOT1Q = 1,
+	RTL8309N_WEIGHT_DSCP = 2,
+	RTL8309N_WEIGHT_ACL = 3,
+	RTL8309N_WEIGHT_NUM
+};
+
+typedef struct rtl8309n_qos_priArbitPara_s {
+	u32 weight[RTL8309N_WEIGHT_NUM];
+} rtl8309n_qos_priArbitPara_t;
+
+/* WRR weights (0..127) of queues 0..3 of one port. */
+struct rtl8309n_qos_queueWeight {
+	u8 weight[4];
+};
+
+/* IP-address priority entries. */
+#define RTL8309N_QOS_IP_ENTRY_A		0
+#define RTL8309N_QOS_IP_ENTRY_B		1
+
+s32 rtl8309n_qos_softReset_set(void);
+/* 1..4 queues; the setter ends with the QoS soft reset. */
+s32 rtl8309n_qos_queueNum_set(u32 num);
+s32 rtl8309n_qos_queueNum_get(u32 *pnum);
+s32 rtl8309n_qos_priToQueMap_set(u32 port, u32 pri, u32 queue);
+s32 rtl8309n_qos_priToQueMap_get(u32 port, u32 pri, u32 *pqueue);
+s32 rtl8309n_qos_1pRemarkEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_qos_1pRemarkEnable_get(u32 port, u32 *penabled);
+s32 rtl8309n_qos_1pRemark_set(u32 pri, u32 dot1p);
+s32 rtl8309n_qos_1pRemark_get(u32 pri, u32 *pdot1p);
+s32 rtl8309n_qos_portPri_set(u32 port, u32 pri);
+s32 rtl8309n_qos_portPri_get(u32 port, u32 *ppri);
+/* @pri is not range-checked: callers keep it within 0..3. */
+s32 rtl8309n_qos_1QPortPri_set(u32 port, u32 pri);
+s32 rtl8309n_qos_1QPortPri_get(u32 port, u32 *ppri);
+s32 rtl8309n_qos_1pPriRemap_set(u32 dot1p, u32 pri);
+s32 rtl8309n_qos_1pPriRemap_get(u32 dot1p, u32 *ppri);
+s32 rtl8309n_qos_dscpPriRemap_set(u32 dscp, u32 pri);
+s32 rtl8309n_qos_dscpPriRemap_get(u32 dscp, u32 *ppri);
+s32 rtl8309n_qos_priSrcArbit_set(const rtl8309n_qos_priArbitPara_t *pweights);
+s32 rtl8309n_qos_priSrcArbit_get(rtl8309n_qos_priArbitPara_t *pweights);
+/* @type: RTL8309N_PRISRC_*; codes 0, 5, 6 are accepted and change nothing. */
+s32 rtl8309n_qos_priSrcEnable_set(u32 port, u32 type, u32 enabled);
+s32 rtl8309n_qos_priSrcEnable_get(u32 port, u32 type, u32 *penabled);
+s32 rtl8309n_qos_ipAddrPriEnable_set(u32 entry, u32 enabled);
+s32 rtl8309n_qos_ipAddrPriEnable_get(u32 entry, u32 *penabled);
+/* @pri is checked as a signed number: negative values are not refused. */
+s32 rtl8309n_qos_ipAddrPri_set(u32 entry, s32 pri);
+s32 rtl8309n_qos_ipAddrPri_get(u32 entry, u32 *ppri);
+s32 rtl8309n_qos_ipAddr_set(u32 entry, u32 ipaddr, u32 ipmask);
+s32 rtl8309n_qos_ipAddr_get(u32 entry, u32 *pipaddr, u32 *pipmask);
+s32 rtl8309n_qos_queueWrr_set(u32 port, struct rtl8309n_qos_queueWeight weights);
+s32 rtl8309n_qos_queueWrr_get(u32 port, struct rtl8309n_qos_queueWeight *pweights);
+s32 rtl8309n_qos_queueStrictPriEnable_set(u32 port, u32 queue, u32 enabled);
+s32 rtl8309n_qos_queueStrictPriEnable_get(u32 port, u32 queue, u32 *penabled);
+
 /* ---- QoS bandwidth, leaky bucket, flow control (rtl8309n_qos_bw.c) ---- */
+
+/* Directions of the per-port rate calls. */
+#define RTL8309N_QOS_INGRESS		0
+#define RTL8309N_QOS_EGRESS		1
+
+/* Highest rate (in the chip's rate steps) of a port or of its queues. */
+#define RTL8309N_QOS_RATE_MAX(port)	(((port) & ~8u) == 0 ? 3200u : 1600u)
+#define RTL8309N_QOS_MAX_FLC_THR	127
+#define RTL8309N_QOS_FLC_THR_KINDS	4
+#define RTL8309N_QOS_PORT_THR_KINDS	2
+
+/* Note the argument orders: they differ between calls on purpose. */
+s32 rtl8309n_qos_portRate_set(u32 port, u32 rate, u32 direction);
+s32 rtl8309n_qos_portRate_get(u32 port, u32 *prate, u32 direction);
+/* Queues 2 and 3 only. */
+s32 rtl8309n_qos_queueRate_set(u32 port, u32 queue, u32 rate);
+s32 rtl8309n_qos_queueRate_get(u32 port, u32 queue, u32 *prate);
+s32 rtl8309n_qos_portRate_IfgIncludeEnable_set(u32 direction, u32 port, u32 enabled);
+s32 rtl8309n_qos_portRate_IfgIncludeEnable_get(u32 direction, u32 port, u32 *penabled);
+s32 rtl8309n_qos_portLeakyBktEnable_set(u32 port, u32 direction, u32 enabled);
+s32 rtl8309n_qos_portLeakyBktEnable_get(u32 port, u32 direction, u32 *penabled);
+s32 rtl8309n_qos_queueLeakyBktEnable_set(u32 port, u32 queue, u32 enabled);
+s32 rtl8309n_qos_queueLeakyBktEnable_get(u32 port, u32 queue, u32 *penabled);
+s32 rtl8309n_qos_queueFlcEnable_set(u32 port, u32 queue, u32 enabled);
+s32 rtl8309n_qos_queueFlcEnable_get(u32 port, u32 queue, u32 *penabled);
+s32 rtl8309n_qos_queueFlcThr_set(u32 port, u32 queue, u32 type, u32 thr);
+s32 rtl8309n_qos_queueFlcThr_get(u32 port, u32 queue, u32 type, u32 *pthr);
+s32 rtl8309n_qos_portDscFlcEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_qos_portDscFlcEnable_get(u32 port, u32 *penabled);
+s32 rtl8309n_qos_egrFlcEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_qos_egrFlcEnable_get(u32 port, u32 *penabled);
+s32 rtl8309n_qos_portFlcThr_set(u32 port, u32 thr1, u32 thr2, u32 type);
+s32 rtl8309n_qos_portFlcThr_get(u32 port, u32 *pthr1, u32 *pthr2, u32 type);
+s32 rtl8309n_qos_igrFlcEnable_set(u32 enabled);
+s32 rtl8309n_qos_igrFlcEnable_get(u32 *penabled);
 
 /* ---- ACL table (rtl8309n_acl.c) ---- */
 
+#define RTL8309N_ACL_ENTRY_NUM		16
+#define RTL8309N_ACL_MAX_PORT		10	/* 9 marks a free entry */
+
+/* What the entry's 16-bit data is compared with. */
+#define RTL8309N_ACL_PROTO_ETHERTYPE	0
+#define RTL8309N_ACL_PROTO_TCP_PORT	1
+#define RTL8309N_ACL_PROTO_UDP_PORT	2
+#define RTL8309N_ACL_PROTO_TCPUDP_PORT	3
+
+/*
+ * Register-layer action codes of an entry.  Code 1 is a second spelling
+ * of drop: it is stored as the chip's drop value and so reads back as 3.
+ */
+#define RTL8309N_ACL_ACT_PERMIT		0
+#define RTL8309N_ACL_ACT_DROP_ALT	1
+#define RTL8309N_ACL_ACT_TRAP_CPU	2
+#define RTL8309N_ACL_ACT_DROP		3
+#define RTL8309N_ACL_ACT_MIRROR		4
+#define RTL8309N_ACL_ACT_MAX		4
+
+typedef struct acl_entry {
+	u32 priority;	/* 0..3, internal priority of matching frames */
+	u32 action;	/* RTL8309N_ACL_ACT_* */
+	u32 port;	/* ingress port 0..8; 9 free; 10 accepted */
+	u32 protocol;	/* RTL8309N_ACL_PROTO_* */
+	u32 data;	/* only bits 15..0 reach the chip */
+} acl_entry;
+
+s32 rtl8309n_acl_entry_set(u32 index, const acl_entry *entry);
+s32 rtl8309n_acl_entry_get(u32 index, acl_entry *entry);
+
 /* ---- MIB counters (rtl8309n_mib.c) ---- */
+
+/* Byte counters span identifiers c and c + 1; packet counters are 2..15. */
+#define RTL8309N_MIB_TX_BYTES		0
+#define RTL8309N_MIB_RX_BYTES		2
+#define RTL8309N_MIB_PKT_MIN		2
+#define RTL8309N_MIB_PKT_MAX		15
+#define RTL8309N_MIB_BYTE_WORDS		4	/* 16-bit words, word 0 least significant */
+
+s32 rtl8309n_mib_enable_set(u32 enabled);
+/* Delivers the flag but always returns RT_ERR_FAILED. */
+s32 rtl8309n_mib_enable_get(u32 *penabled);
+s32 rtl8309n_mib_start(u32 port);
+s32 rtl8309n_mib_stop(u32 port);
+s32 rtl8309n_mib_overFlowFlag_set(u32 port, u32 flag);
+s32 rtl8309n_mib_overFlowFlag_get(u32 port, u32 *pflag);
+/* @counter is RTL8309N_MIB_TX_BYTES or _RX_BYTES; @value has 4 elements. */
+s32 rtl8309n_mib_byteCnt_get(u32 port, u32 counter, u32 *value);
+s32 rtl8309n_mib_pktCnt_get(u32 port, u32 counter, u32 *value);
+/* Waits without bound for the chip to finish clearing. */
+s32 rtl8309n_mib_reset(u32 port);
 
 /* ---- Port and MAC mirroring (rtl8309n_mirror.c) ---- */
 
+s32 rtl8309n_mirror_selfFilterEnable_set(u32 enabled);
+s32 rtl8309n_mirror_selfFilterEnable_get(u32 *penabled);
+s32 rtl8309n_mirror_pauseFrameEnable_set(u32 enabled);
+s32 rtl8309n_mirror_pauseFrameEnable_get(u32 *penabled);
+/* Mask A is chip register 18, mask B register 17; also turns self-filtering on. */
+s32 rtl8309n_mirror_portBased_set(u32 mirport, u32 maskA, u32 maskB);
+s32 rtl8309n_mirror_portBased_get(u32 *pmirport, u32 *pmaskA, u32 *pmaskB);
+s32 rtl8309n_mirror_macBased_set(const u8 *mac, u32 enabled);
+s32 rtl8309n_mirror_macBased_get(u8 *mac, u32 *penabled);
+
 /* ---- L2 address table (rtl8309n_l2.c) ---- */
 
+#define RTL8309N_L2_ENTRY_NUM		2048
+#define RTL8309N_L2_BUCKET_NUM		512	/* 9-bit hash; way w at hash + 512 * w */
+#define RTL8309N_L2_WAY_NUM		4
+#define RTL8309N_L2_MAX_FID		3
+#define RTL8309N_L2_MAX_AGE		3
+#define RTL8309N_L2_NO_INDEX		10000	/* index output when nothing was found */
+#define RTL8309N_MAC_LEN		6
+
+/* The action controls take RTL8309N_ACT_TRAP or RTL8309N_ACT_DROP. */
+typedef struct rtl8309n_l2_ucastEntry {
+	u32 isStatic;
+	u32 auth;	/* authorised by 802.1X */
+	u32 block10;
+	u32 block9;
+	u32 age;	/* 0 (aged out) .. 3 */
+	u32 port;
+	u32 fid;
+	u8 mac[RTL8309N_MAC_LEN];
+} rtl8309n_l2_ucastEntry;
+
+typedef struct rtl8309n_l2_mcastEntry {
+	u32 valid;
+	u32 fid;
+	u32 portMask;
+	u8 mac[RTL8309N_MAC_LEN];
+} rtl8309n_l2_mcastEntry;
+
+s32 rtl8309n_l2_MacToIdx_get(const u8 *mac, u32 fid, u32 *pindex);
+s32 rtl8309n_l2_hashmode_set(u32 mode);
+s32 rtl8309n_l2_hashmode_get(u32 *pmode);
+
+s32 rtl8309n_l2_ucastEntry_set(u32 index, const rtl8309n_l2_ucastEntry *entry);
+s32 rtl8309n_l2_ucastEntry_get(u32 index, rtl8309n_l2_ucastEntry *entry);
+s32 rtl8309n_l2_mcastEntry_set(u32 index, const rtl8309n_l2_mcastEntry *entry);
+s32 rtl8309n_l2_mcastEntry_get(u32 index, rtl8309n_l2_mcastEntry *entry);
+s32 rtl8309n_l2_macAddr_get(u32 index, u8 *mac);
+
+/*
+ * Address operations over the four ways of the bucket of (mac, fid); *pindex
+ * gets the entry index used, or RTL8309N_L2_NO_INDEX.
+ */
+s32 rtl8309n_l2_ucastAddr_add(const u8 *mac, u32 fid, const rtl8309n_l2_ucastEntry *entry,
+			      u32 *pindex);
+s32 rtl8309n_l2_ucastAddr_get(const u8 *mac, u32 fid, rtl8309n_l2_ucastEntry *entry,
+			      u32 *pindex);
+s32 rtl8309n_l2_ucastAddr_del(const u8 *mac, u32 fid, u32 *pindex);
+s32 rtl8309n_l2_mcastAddr_add(const u8 *mac, u32 fid, u32 portMask, u32 *pindex);
+s32 rtl8309n_l2_mcastAddr_get(const u8 *mac, u32 fid, u32 *pportMask, u32 *pindex);
+s32 rtl8309n_l2_mcastAddr_del(const u8 *mac, u32 fid, u32 *pindex);
+
+s32 rtl8309n_l2_portMacLimitEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_l2_portMacLimitEnable_get(u32 port, u32 *penabled);
+s32 rtl8309n_l2_portMacLimit_set(u32 port, u32 limit);
+s32 rtl8309n_l2_portMacLimit_get(u32 port, u32 *plimit);
+s32 rtl8309n_l2_systemMacLimitEnable_set(u32 enabled);
+s32 rtl8309n_l2_systemMacLimitEnable_get(u32 *penabled);
+s32 rtl8309n_l2_systemMacLimit_set(u32 limitA, u32 limitB);
+s32 rtl8309n_l2_systemMacLimit_get(u32 *plimitA, u32 *plimitB);
+s32 rtl8309n_l2_macLimitAction_set(u32 action);
+s32 rtl8309n_l2_macLimitAction_get(u32 *paction);
+s32 rtl8309n_l2_systemLearningCnt_get(u32 *pcount);
+s32 rtl8309n_l2_portlearningCnt_get(u32 port, u32 *pcount);
+s32 rtl8309n_l2_lruEnable_set(u32 enabled);
+s32 rtl8309n_l2_lruEnable_get(u32 *penabled);
+s32 rtl8309n_l2_camEnable_set(u32 enabled);
+s32 rtl8309n_l2_camEnable_get(u32 *penabled);
+s32 rtl8309n_l2_flushEnable_set(u32 enabled);
+s32 rtl8309n_l2_flushEnable_get(u32 *penabled);
+s32 rtl8309n_l2_agingEnable_set(u32 enabled);
+s32 rtl8309n_l2_agingEnable_get(u32 *penabled);
+s32 rtl8309n_l2_fastAgingEnable_set(u32 enabled);
+s32 rtl8309n_l2_fastAgingEnable_get(u32 *penabled);
+s32 rtl8309n_l2_dpMskEnable_set(u32 enabled);
+s32 rtl8309n_l2_dpMskEnable_get(u32 *penabled);
+s32 rtl8309n_l2_unkownDaDropEnable_set(u32 enabled);
+s32 rtl8309n_l2_unkownDaDropEnable_get(u32 *penabled);
+s32 rtl8309n_l2_sablockAction_set(u32 action);
+s32 rtl8309n_l2_sablockAction_get(u32 *paction);
+s32 rtl8309n_l2_dablockAction_set(u32 action);
+s32 rtl8309n_l2_dablockAction_get(u32 *paction);
+
 /* ---- STP and 802.1X (rtl8309n_stp_dot1x.c) ---- */
+s32 rtl8309n_stp_set(u32 port, u32 state);
+s32 rtl8309n_stp_get(u32 port, u32 *pState);
+s32 rtl8309n_dot1x_portBasedEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_dot1x_portBasedEnable_get(u32 port, u32 *pEnabled);
+s32 rtl8309n_dot1x_macBasedEnable_set(u32 port, u32 enabled);
+s32 rtl8309n_dot1x_macBasedEnable_get(u32 port, u32 *pEnabled);
+s32 rtl8309n_dot1x_portBased_set(u32 port, u32 isAuth, u32 direction);
+s32 rtl8309n_dot1x_portBased_get(u32 port, u32 *pIsAuth, u32 *pDirection);
+s32 rtl8309n_dot1x_macBased_set(u32 direction);
+s32 rtl8309n_dot1x_macBased_get(u32 *pDirection);
+s32 rtl8309n_dot1x_unauthPktAction_set(u32 action);
+s32 rtl8309n_dot1x_unauthPktAction_get(u32 *pAction);
 
 /* ---- Traps, reserved multicast, IGMP (rtl8309n_trap.c) ---- */
+/* Packet actions of the register layer (L2, trap and reserved multicast) */
+#define RTL8309N_ACT_FORWARD		0
+#define RTL8309N_ACT_TRAP		2	/* to the CPU port */
+#define RTL8309N_ACT_DROP		3
+
+#define RTL8309N_RMA_ENTRY_MAX		18	/* fixed entries 0..18 */
+#define RTL8309N_RMA_STP_ENTRY		0	/* rewritten by every STP state change */
+#define RTL8309N_RMA_IGMP_ENTRY		12	/* 12..15: IGMP control types 0..3 */
+
+/* One reserved-multicast slot; value 1 of action is carried but unused. */
+typedef struct rtl8309n_rma_entry {
+	u32 action;	/* 0..3 */
+	u32 flag;	/* 0 or 1 */
+	u32 value;	/* 2 bits */
+} rtl8309n_rma_entry;
+
+s32 rtl8309n_rma_entry_set(u32 index, const rtl8309n_rma_entry *pEntry);
+s32 rtl8309n_rma_entry_get(u32 index, rtl8309n_rma_entry *pEntry);
+/* @pMac: three words, MAC byte 2k in bits 7..0 of word k */
+s32 rtl8309n_rma_userentry_set(const rtl8309n_rma_entry *pEntry, const u16 *pMac);
+/* @pMac: six bytes */
+s32 rtl8309n_rma_userentry_get(rtl8309n_rma_entry *pEntry, u8 *pMac);
+s32 rtl8309n_igmp_enable_set(u32 type, u32 enabled);
+s32 rtl8309n_igmp_enable_get(u32 type, u32 *pEnabled);
+s32 rtl8309n_trap_unknownIPMcastPktAction_set(u32 type, u32 action);
+s32 rtl8309n_trap_unknownIPMcastPktAction_get(u32 type, u32 *pAction);
+s32 rtl8309n_trap_abnormalPktAction_set(u32 type, u32 action);
+s32 rtl8309n_trap_abnormalPktAction_get(u32 type, u32 *pAction);
+s32 rtl8309n_trap_igmpCtrlPktAction_set(u32 type, u32 action);
+s32 rtl8309n_trap_igmpCtrlPktAction_get(u32 type, u32 *pAction);
 
 /* ---- Interrupts and storm filtering (rtl8309n_intr_storm.c) ---- */
+#define RTL8309N_INTR_MASK_ALL		0x1FFF	/* 13 interrupt sources */
+#define RTL8309N_STORM_TYPE_MAX		3	/* types 1 and 2 share one filter */
 
-/* ---- Loop detection, ISP/WAN, LEDs, wake-up (rtl8309n_misc.c) ---- */
+typedef struct rtl8309n_storm_attr {
+	u32 ctrlFlag;	/* written as (is not 0) */
+	u32 rate;	/* 17 bits */
+	u32 param;	/* 16 bits */
+	u32 globalFlag;	/* one flag for all ports and types, written as (is 1) */
+} rtl8309n_storm_attr;
+
+s32 rtl8309n_intr_enable_set(u32 enabled, u32 mask);
+s32 rtl8309n_intr_enable_get(u32 *pEnabled, u32 *pMask);
+s32 rtl8309n_intr_status_set(u32 status);
+s32 rtl8309n_intr_status_get(u32 *pStatus);
+s32 rtl8309n_storm_filterEnable_set(u32 port, u32 type, u32 enabled);
+s32 rtl8309n_storm_filterEnable_get(u32 port, u32 type, u32 *pEnabled);
+s32 rtl8309n_storm_filterAttr_set(u32 port, u32 type, const rtl8309n_storm_attr *pAttr);
+s32 rtl8309n_storm_filterAttr_get(u32 port, u32 type, rtl8309n_storm_attr *pAttr);
+s32 rtl8309n_storm_filterStatus_set(u32 port, u32 type, u32 enabled);
+s32 rtl8309n_storm_filterStatus_get(u32 port, u32 type, u32 *pEnabled);
+
+/* ---- Loop detection RLDP/RLPP (rtl8309n_rldp.c) ---- */
+typedef struct rtl8309n_rldp_controlAttr {
+	u32 attr1;	/* 0..3 */
+	u32 attr2;	/* 0..3 */
+	u32 attr3;	/* 0..16; 16 lands on the storm-filter bit */
+	u8 mac[6];
+} rtl8309n_rldp_controlAttr;
+
+s32 rtl8309n_rldp_enable_set(u32 enabled);
+s32 rtl8309n_rldp_enable_get(u32 *pEnabled);
+s32 rtl8309n_rldp_priEnable_set(u32 enabled);
+s32 rtl8309n_rldp_priEnable_get(u32 *pEnabled);
+s32 rtl8309n_rldp_ttlEnable_set(u32 enabled);
+s32 rtl8309n_rldp_ttlEnable_get(u32 *pEnabled);
+s32 rtl8309n_rldp_stormFilterEnable_set(u32 enabled);
+s32 rtl8309n_rldp_stormFilterEnable_get(u32 *pEnabled);
+s32 rtl8309n_rldp_vlanTagEnable_set(u32 enabled);
+s32 rtl8309n_rldp_vlanTagEnable_get(u32 *pEnabled);
+s32 rtl8309n_rldp_identifierEnable_set(u32 enabled);
+s32 rtl8309n_rldp_identifierEnable_get(u32 *pEnabled);
+s32 rtl8309n_rlpp_action_set(u32 action);
+s32 rtl8309n_rlpp_action_get(u32 *pAction);
+s32 rtl8309n_rldp_controlAttr_set(const rtl8309n_rldp_controlAttr *pAttr);
+s32 rtl8309n_rldp_controlAttr_get(rtl8309n_rldp_controlAttr *pAttr);
+s32 rtl8309n_rldp_protocol_set(u32 protocol);
+s32 rtl8309n_rldp_protocol_get(u32 *pProtocol);
+s32 rtl8309n_rldp_loopStatus_get(u32 *pStatus);
+
+/* ---- ISP / WAN port (rtl8309n_isp.c) ---- */
+s32 rtl8309n_isp_enable_set(u32 enabled);
+s32 rtl8309n_isp_enable_get(u32 *pEnabled);
+/* @pMac: three words, MAC byte 2k in bits 7..0 of word k */
+s32 rtl8309n_isp_mac_set(const u16 *pMac);
+/* @pMac: six bytes */
+s32 rtl8309n_isp_mac_get(u8 *pMac);
+s32 rtl8309n_isp_wanPort_set(u32 port);
+s32 rtl8309n_isp_wanPort_get(u32 *pPort);
+
+/* ---- LEDs and buzzer (rtl8309n_led.c) ---- */
+s32 rtl8309n_led_rstBlinkEnable_set(u32 enabled);
+s32 rtl8309n_led_rstBlinkEnable_get(u32 *pEnabled);
+s32 rtl8309n_led_rldpEnable_set(u32 enabled);
+s32 rtl8309n_led_rldpEnable_get(u32 *pEnabled);
+s32 rtl8309n_led_led1Enable_set(u32 enabled);
+s32 rtl8309n_led_led1Enable_get(u32 *pEnabled);
+s32 rtl8309n_led_modeBlinkRate_set(u32 mode, u32 rate);
+s32 rtl8309n_led_modeBlinkRate_get(u32 *pMode, u32 *pRate);
+s32 rtl8309n_led_rlppRldp_blinkRate_set(u32 rate);
+s32 rtl8309n_led_rlppRldp_blinkRate_get(u32 *pRate);
+s32 rtl8309n_led_rlppLedMsk_set(u32 mask);
+s32 rtl8309n_led_rlppLedMsk_get(u32 *pMask);
+s32 rtl8309n_led_buzzerForm_set(u32 form);
+s32 rtl8309n_led_buzzerForm_get(u32 *pForm);
+s32 rtl8309n_led_rtct_set(u32 group, u32 state, u32 result);
+s32 rtl8309n_led_rtct_get(u32 *pGroup, u32 *pState, u32 *pResult);
+s32 rtl8309n_led_cpu_set(u32 group, u32 value1, u32 value2);
+s32 rtl8309n_led_cpu_get(u32 group, u32 *pValue1, u32 *pValue2);
+
+/* ---- Wake-up (rtl8309n_wol.c) ---- */
+s32 rtl8309n_wkp_enable_set(u32 enabled1, u32 enabled2);
+s32 rtl8309n_wkp_enable_get(u32 *pEnabled1, u32 *pEnabled2);
+s32 rtl8309n_wkp_linkchngEnable_set(u32 enabled, u32 portmask);
+s32 rtl8309n_wkp_linkchngEnable_get(u32 *pEnabled, u32 *pPortmask);
+s32 rtl8309n_wkp_linkchangeStatus_get(u32 *pStatus);
+s32 rtl8309n_wkp_frameEnable_set(u32 enabled, u32 portmask1, u32 portmask2, u32 flag1, u32 flag2);
+s32 rtl8309n_wkp_frameEnable_get(u32 *pEnabled, u32 *pPortmask1, u32 *pPortmask2,
+				 u32 *pFlag1, u32 *pFlag2);
+s32 rtl8309n_wkp_frameStatus_get(u32 *pStatus);
 
 #endif /* RTL8309N_ASICDRV_H */

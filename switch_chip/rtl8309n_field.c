@@ -64,3 +64,132 @@ s32 rtl8309n_poll_bit_clear(u32 phyad, u32 regad, u32 bit, u32 npage, u32 max_re
 	}
 	return RT_ERR_FAILED;
 }
+
+s32 rtl8309n_cmd_exec(u32 phyad, u32 regad, u32 bit, u32 npage)
+{
+	rtl8309n_regbit_set(phyad, regad, bit, npage, 1);
+	return rtl8309n_poll_bit_clear(phyad, regad, bit, npage, RTL8309N_POLL_READS);
+}
+
+/* Byte pair held by the @i-th register of a MAC register triple. */
+static u32 mac_pair(u32 i, int reversed)
+{
+	return reversed ? 2 - i : i;
+}
+
+void rtl8309n_mac_regs_set(u32 phyad, u32 first_reg, u32 npage, int reversed, const u8 *mac)
+{
+	u32 i;
+
+	for (i = 0; i < 3; i++) {
+		const u8 *pair = &mac[2 * mac_pair(i, reversed)];
+
+		rtl8309n_reg_set(phyad, first_reg + i, npage, (u16)(pair[0] | (pair[1] << 8)));
+	}
+}
+
+void rtl8309n_mac_regs_get(u32 phyad, u32 first_reg, u32 npage, int reversed, u8 *mac)
+{
+	u32 data;
+	u32 i;
+
+	for (i = 0; i < 3; i++) {
+		u8 *pair = &mac[2 * mac_pair(i, reversed)];
+
+		data = 0;
+		rtl8309n_reg_get(phyad, first_reg + i, npage, &data);
+		pair[0] = (u8)data;
+		pair[1] = (u8)(data >> 8);
+	}
+}
+
+s32 rtl8309n_reg_update(u32 phyad, u32 regad, u32 npage, u32 clear, u32 bits)
+{
+	u32 data = 0;
+	s32 ret;
+
+	ret = rtl8309n_reg_get(phyad, regad, npage, &data);
+	if (ret != RT_ERR_OK)
+		return ret;
+	return rtl8309n_reg_set(phyad, regad, npage, (u16)((data & ~clear) | bits));
+}
+
+/* Coordinates of @f for @port; RT_ERR_FAILED if the field or port is refused. */
+static s32 regfield_locate(const struct rtl8309n_regfield *f, u32 port, u32 *phyad,
+			   u32 *regad, u32 *lsb)
+{
+	if (!f || (f->index != RTL8309N_GLOBAL && port > RTL8309N_MAX_PORT))
+		return RT_ERR_FAILED;
+
+	*phyad = f->index == RTL8309N_PORT_ADDR ? port : f->phyad;
+	*regad = f->regad + (f->index == RTL8309N_PORT_REG ? port : 0);
+	*lsb = f->lsb + (f->index == RTL8309N_PORT_BIT ? port : 0);
+	return RT_ERR_OK;
+}
+
+s32 rtl8309n_regfield_set(const struct rtl8309n_regfield *f, u32 port, u32 value)
+{
+	u32 phyad, regad, lsb;
+
+	if (regfield_locate(f, port, &phyad, &regad, &lsb) != RT_ERR_OK)
+		return RT_ERR_FAILED;
+	if (f->width == 0)
+		return RT_ERR_OK;
+	if (f->width == 1)
+		return rtl8309n_flag_set(phyad, regad, lsb, f->npage, value, f->pol);
+	if (value > RTL8309N_FIELD_MASK(f->width))
+		return RT_ERR_FAILED;
+	return rtl8309n_field_set(phyad, regad, f->npage, lsb, f->width, value);
+}
+
+s32 rtl8309n_regfield_get(const struct rtl8309n_regfield *f, u32 port, u32 *pvalue)
+{
+	u32 phyad, regad, lsb;
+
+	if (regfield_locate(f, port, &phyad, &regad, &lsb) != RT_ERR_OK || !pvalue)
+		return RT_ERR_FAILED;
+	if (f->width == 0) {
+		*pvalue = 0;
+		return RT_ERR_OK;
+	}
+	if (f->width == 1)
+		return rtl8309n_flag_get(phyad, regad, lsb, f->npage, pvalue, f->pol);
+	return rtl8309n_field_get(phyad, regad, f->npage, lsb, f->width, pvalue);
+}
+
+s32 rtl8309n_regfield_code_set(const struct rtl8309n_regfield *f, u32 port, u32 code,
+			       u32 code_set, u32 code_clear)
+{
+	if (code != code_set && code != code_clear)
+		return RT_ERR_FAILED;
+	return rtl8309n_regfield_set(f, port, code == code_set);
+}
+
+s32 rtl8309n_regfield_code_get(const struct rtl8309n_regfield *f, u32 port, u32 *pcode,
+			       u32 code_set, u32 code_clear)
+{
+	u32 bit = 0;
+	s32 ret;
+
+	if (!pcode)
+		return RT_ERR_FAILED;
+	ret = rtl8309n_regfield_get(f, port, &bit);
+	if (ret != RT_ERR_OK)
+		return ret;
+	*pcode = bit ? code_set : code_clear;
+	return RT_ERR_OK;
+}
+
+s32 rtl8309n_reg_set_max(u32 phyad, u32 regad, u32 npage, u32 value, u32 max)
+{
+	if (value > max)
+		return RT_ERR_FAILED;
+	return rtl8309n_reg_set(phyad, regad, npage, (u16)value);
+}
+
+s32 rtl8309n_reg_get_low(u32 phyad, u32 regad, u32 npage, u32 width, u32 *pvalue)
+{
+	if (!pvalue)
+		return RT_ERR_FAILED;
+	return rtl8309n_field_get(phyad, regad, npage, 0, width, pvalue);
+}

@@ -36,31 +36,428 @@
 #define RTL8309N_MII_AN_LPA		5
 
 /* ---- Chip initialisation, PHY reset, maximum packet length ---- */
+/* Maximum frame length: mode in (7, 16, 17) bits 7..6, user length in (7, 17, 17). */
+#define RTL8309N_PKTLEN_ADDR		7
+#define RTL8309N_PKTLEN_PAGE		17
+#define RTL8309N_PKTLEN_CTRL_REG	16
+#define RTL8309N_PKTLEN_MODE_LSB	6
+#define RTL8309N_PKTLEN_MODE_WIDTH	2
+#define RTL8309N_PKTLEN_USER_REG	17
+#define RTL8309N_PKTLEN_USER_WIDTH	12	/* bits 11..0 */
 
 /* ---- Port MAC and PHY control ---- */
+/* Per port: SMI address = port. */
+#define RTL8309N_PORT_LEARN_PAGE	5
+#define RTL8309N_PORT_LEARN_REG		16
+#define RTL8309N_PORT_LEARN_BIT		0
+#define RTL8309N_PORT_ISO_PAGE		4
+#define RTL8309N_PORT_ISO_REG		16	/* bits 8..0, written whole */
+#define RTL8309N_PORT_ISO_WIDTH		9
+
+/* MAC port 8 ("extension port 0"): interface mode, bits 2..0 of (3, 16, 17). */
+#define RTL8309N_EXT0_MODE_ADDR		3
+#define RTL8309N_EXT0_MODE_REG		16
+#define RTL8309N_EXT0_MODE_PAGE		17
+#define RTL8309N_EXT0_MODE_WIDTH	3
+/* Forced link of the MAC port: low byte of (8, 16, 0); bits 4 and 7 unused. */
+#define RTL8309N_EXT0_FORCE_ADDR	8
+#define RTL8309N_EXT0_FORCE_REG		16
+#define RTL8309N_EXT0_FORCE_PAGE	0
+#define RTL8309N_EXT0_FORCE_WIDTH	8
+#define RTL8309N_EXT0_FORCE_NO_NWAY_BIT	0	/* 1: auto-negotiation off */
+#define RTL8309N_EXT0_FORCE_LINK_BIT	1
+#define RTL8309N_EXT0_FORCE_DUPLEX_BIT	2
+#define RTL8309N_EXT0_FORCE_SPEED_BIT	3	/* 1: 100 (200) Mbit/s */
+#define RTL8309N_EXT0_FORCE_TXPAUSE_BIT	5
+#define RTL8309N_EXT0_FORCE_RXPAUSE_BIT	6
+/* Read-only status of the MAC port: one flag per register, true from 0x100. */
+#define RTL8309N_EXT0_STATUS_ADDR	2
+#define RTL8309N_EXT0_STATUS_PAGE	14
+#define RTL8309N_EXT0_STATUS_LINK_REG	18
+#define RTL8309N_EXT0_STATUS_SPEED_REG	19
+#define RTL8309N_EXT0_STATUS_DUPLEX_REG	20
+#define RTL8309N_EXT0_STATUS_TXPAUSE_REG 21
+#define RTL8309N_EXT0_STATUS_RXPAUSE_REG 22
+#define RTL8309N_EXT0_STATUS_TRUE	0x100
 
 /* ---- VLAN registers and table ---- */
+#define RTL8309N_VLAN_PAGE		16
+/* Global control (0, 16, 16). */
+#define RTL8309N_VLAN_CTRL_ADDR		0
+#define RTL8309N_VLAN_CTRL_REG		16
+#define RTL8309N_VLAN_ENABLE_BIT	0
+#define RTL8309N_VLAN_IGR_FILTER_OFF_BIT 1	/* 1: ingress filtering off */
+#define RTL8309N_VLAN_UNMATCH_ACT_BIT	2	/* 1: action 2, 0: action 3 */
+#define RTL8309N_VLAN_LEAKY_OFF_BIT	3	/* bits 3..7: types 0..4, 1: no leak */
+#define RTL8309N_VLAN_FIXMC_FID_EN_BIT	8
+#define RTL8309N_VLAN_FIXMC_FID_LSB	9	/* bits 10..9 */
+/* Per port p: (0, 17 + p, 16). */
+#define RTL8309N_VLAN_PORT_ADDR		0
+#define RTL8309N_VLAN_PORT_REG		17
+#define RTL8309N_VLAN_ACCEPT_LSB	0	/* bits 1..0 */
+#define RTL8309N_VLAN_TAG_AWARE_BIT	2
+#define RTL8309N_VLAN_DISCARD_NONPVID_BIT 3
+#define RTL8309N_VLAN_PVID_INDEX_LSB	4	/* bits 7..4 */
+/* Per port p: tag control (p, 16, 6). */
+#define RTL8309N_VLAN_TAG_PAGE		6
+#define RTL8309N_VLAN_TAG_REG		16
+#define RTL8309N_VLAN_NULL_VID_BIT	0
+#define RTL8309N_VLAN_TAG_INSREM_LSB	1	/* bits 2..1 */
+#define RTL8309N_VLAN_IGR_INS_EN_BIT	3
+#define RTL8309N_VLAN_IGR_INS_MASK_LSB	7	/* bits 15..7 */
+/* Table entry i: register 16 + i of three SMI addresses. */
+#define RTL8309N_VLAN_ENTRY_REG		16
+#define RTL8309N_VLAN_ENTRY_VID_ADDR	1	/* VID bits 11..0, FID bits 13..12 */
+#define RTL8309N_VLAN_ENTRY_MBR_ADDR	2	/* member mask bits 8..0 */
+#define RTL8309N_VLAN_ENTRY_UNTAG_ADDR	3	/* untag mask bits 8..0 */
+#define RTL8309N_VLAN_ENTRY_FID_SHIFT	12
+#define RTL8309N_VLAN_ENTRY_VID_MASK	0x0FFF
+#define RTL8309N_VLAN_ENTRY_FID_MASK	0x3
 
 /* ---- CPU port and CPU tag ---- */
+#define RTL8309N_CPU_ADDR		2
+#define RTL8309N_CPU_PAGE		17
+#define RTL8309N_CPU_CTRL_REG		16
+#define RTL8309N_CPU_DISABLE_BIT	0	/* 1: CPU port function off */
+#define RTL8309N_CPU_PORT_LSB		1	/* bits 4..1; 9: no CPU port */
+#define RTL8309N_CPU_PORT_WIDTH		4
+#define RTL8309N_CPU_TAG_AWARE_BIT	5
+#define RTL8309N_CPU_TAG_INSERT_BIT	6
+#define RTL8309N_CPU_TAG_REMOVE_BIT	7
+#define RTL8309N_CPU_NONCPU_RXTAG_BIT	8	/* 1: action 0, 0: action 3 */
+#define RTL8309N_CPU_LEARN_BIT		9
+#define RTL8309N_CPU_NO_CRC_BIT		10	/* 1: CRC check off */
+#define RTL8309N_CPU_INSERT_MASK_REG	17	/* bit p: tag frames of port p */
 
 /* ---- QoS priority sources, remapping, queues ---- */
+/* QoS soft reset: (0, 16, 14) bit 1, self-clearing. */
+#define RTL8309N_QOS_RESET_ADDR		0
+#define RTL8309N_QOS_RESET_REG		16
+#define RTL8309N_QOS_RESET_PAGE		14
+#define RTL8309N_QOS_RESET_BIT		1
+/* Global priority tables, SMI address 5, page 16. */
+#define RTL8309N_QOS_PAGE		16
+#define RTL8309N_QOS_ADDR		5
+#define RTL8309N_QOS_QNUM_REG		16	/* bits 1..0: queues - 1 */
+#define RTL8309N_QOS_ARBIT_REG		17	/* 2-bit weights 0, 3, 1, 2 upward */
+#define RTL8309N_QOS_1P_REMAP_REG	18	/* tag priority t: bits 2t+1..2t */
+#define RTL8309N_QOS_DSCP_REMAP_REG	19	/* 19..26: DSCP d in 19 + d / 8 */
+/* SMI address 6, page 16: egress re-marking and the per-port queue maps. */
+#define RTL8309N_QOS_MAP_ADDR		6
+#define RTL8309N_QOS_1P_REMARK_REG	16	/* priority p: bits 3p+2..3p */
+#define RTL8309N_QOS_1P_REMARK_WIDTH	3
+#define RTL8309N_QOS_QMAP_REG		17	/* 17 + port; priority 0 at bits 7..6 */
+/* IP-address priority entries A and B, SMI address 4, page 16. */
+#define RTL8309N_QOS_IP_ADDR		4
+#define RTL8309N_QOS_IP_CTRL_REG	22	/* A: bits 1..0, enable 2; B: 5..4, 6 */
+#define RTL8309N_QOS_IP_PRI_LSB		0
+#define RTL8309N_QOS_IP_EN_BIT		2
+#define RTL8309N_QOS_IP_ENTRY_SHIFT	4	/* entry B sits 4 bits above A */
+#define RTL8309N_QOS_IP_DATA_REG	23	/* A: 23..26, B: 27..30 */
+#define RTL8309N_QOS_IP_DATA_REGS	4	/* address lo, hi, mask lo, hi */
+/* Per port (SMI address = port), page 10: priority sources. */
+#define RTL8309N_QOS_PORT_PAGE		10
+#define RTL8309N_QOS_SRC_REG		16	/* bits 4..0: source disables */
+#define RTL8309N_QOS_SRC_ACL_OFF_BIT	0
+#define RTL8309N_QOS_SRC_IP_OFF_BIT	1
+#define RTL8309N_QOS_SRC_DSCP_OFF_BIT	2
+#define RTL8309N_QOS_SRC_PORT_OFF_BIT	3
+#define RTL8309N_QOS_SRC_1Q_OFF_BIT	4
+#define RTL8309N_QOS_1P_REMARK_EN_BIT	5
+#define RTL8309N_QOS_PORT_PRI_REG	17	/* bits 1..0 */
+#define RTL8309N_QOS_1Q_PORT_PRI_REG	18	/* bits 2..0: 802.1Q port priority */
+#define RTL8309N_QOS_1Q_PORT_PRI_BIT2	2	/* priorities 4..7, unused here */
+/* Per port, page 9: WRR weight (7 bits) and strict-priority flag per queue. */
+#define RTL8309N_QOS_SCHED_PAGE		9
+#define RTL8309N_QOS_SCHED_REG		17	/* queues 0, 1: 17; queues 2, 3: 18 */
+#define RTL8309N_QOS_SCHED_WEIGHTS	0x7F7F	/* weight of the lower queue 6..0 */
+#define RTL8309N_QOS_SCHED_STRICT_BIT	7	/* lower queue 7, upper queue 15 */
+#define RTL8309N_QOS_SCHED_UPPER_SHIFT	8
 
 /* ---- QoS bandwidth, leaky bucket, flow control ---- */
+/* Per port (SMI address = port), page 9: rates, leaky buckets, IFG. */
+#define RTL8309N_BW_PAGE		9
+#define RTL8309N_BW_EGR_CTRL_REG	16
+#define RTL8309N_BW_Q2_LEAKY_BIT	0
+#define RTL8309N_BW_Q3_LEAKY_BIT	1
+#define RTL8309N_BW_EGR_LEAKY_BIT	2
+#define RTL8309N_BW_EGR_NO_IFG_BIT	3	/* 1: IFG not counted */
+#define RTL8309N_BW_Q2_RATE_REG		21	/* written whole */
+#define RTL8309N_BW_Q3_RATE_REG		22
+#define RTL8309N_BW_EGR_RATE_REG	26	/* bits 11..0 */
+#define RTL8309N_BW_IGR_CTRL_REG	27
+#define RTL8309N_BW_IGR_NO_LEAKY_BIT	0	/* 1: ingress leaky bucket off */
+#define RTL8309N_BW_IGR_IFG_BIT		1
+#define RTL8309N_BW_IGR_RATE_REG	28	/* bits 11..0 */
+#define RTL8309N_BW_RATE_WIDTH		12
+/* Per port: queue thresholds, kinds 0/1 on page 11, kinds 2/3 on page 12. */
+#define RTL8309N_FLC_QTHR_PAGE		11	/* + kind / 2 */
+#define RTL8309N_FLC_QTHR_REG		16	/* + 2 * queue + kind % 2 */
+/* Per port: port thresholds, two registers per kind. */
+#define RTL8309N_FLC_PTHR0_PAGE		13
+#define RTL8309N_FLC_PTHR0_REG		17	/* 17, 18 */
+#define RTL8309N_FLC_PTHR1_PAGE		11
+#define RTL8309N_FLC_PTHR1_REG		24	/* 24, 25 */
+/* Global flow control, SMI address 7, page 16. */
+#define RTL8309N_FLC_ADDR		7
+#define RTL8309N_FLC_PAGE		16
+#define RTL8309N_FLC_IGR_REG		18	/* bit 0: ingress flow control on */
+#define RTL8309N_FLC_IGR_BIT		0
+#define RTL8309N_FLC_DSC_OFF_REG	23	/* bit p: port p off */
+#define RTL8309N_FLC_EGR_OFF_REG	24	/* bit p: port p off */
+#define RTL8309N_FLC_QUEUE_OFF_REG	25	/* ports 0..3: 25, 4..7: 26, 4 bits each */
+#define RTL8309N_FLC_QUEUE_PORTS_PER_REG 4
+#define RTL8309N_FLC_CPU_QUEUE_OFF_LSB	12	/* port 8: bits 15..12 of register 24 */
 
 /* ---- ACL table ---- */
+#define RTL8309N_ACL_ADDR		3
+#define RTL8309N_ACL_PAGE		15
+#define RTL8309N_ACL_ACCESS_REG		16	/* bit 0: table access enable */
+#define RTL8309N_ACL_ACCESS_BIT		0
+#define RTL8309N_ACL_CMD_REG		17
+#define RTL8309N_ACL_CMD_INDEX_LSB	0	/* bits 3..0: entry index */
+#define RTL8309N_ACL_CMD_INDEX_WIDTH	4
+#define RTL8309N_ACL_CMD_READ_BIT	14	/* 1 read, 0 write */
+#define RTL8309N_ACL_CMD_BUSY_BIT	15	/* start; the chip clears it */
+#define RTL8309N_ACL_DATA_REG		18
+#define RTL8309N_ACL_FIELDS_REG		19	/* bits 15..10 are not ours */
+#define RTL8309N_ACL_FIELDS_WIDTH	10
+#define RTL8309N_ACL_PROTO_LSB		0
+#define RTL8309N_ACL_PROTO_WIDTH	2
+#define RTL8309N_ACL_PORT_LSB		2
+#define RTL8309N_ACL_PORT_WIDTH		4
+#define RTL8309N_ACL_ACT_LSB		6
+#define RTL8309N_ACL_ACT_WIDTH		2
+#define RTL8309N_ACL_PRI_LSB		8
+#define RTL8309N_ACL_PRI_WIDTH		2
+/* Every entry write also sets bits 0, 5, 6 and 7 of (2, 16, 17). */
+#define RTL8309N_ACL_WRITE_ADDR		2
+#define RTL8309N_ACL_WRITE_REG		16
+#define RTL8309N_ACL_WRITE_PAGE		17
+#define RTL8309N_ACL_WRITE_BITS		0x00E1
 
 /* ---- MIB counters ---- */
+#define RTL8309N_MIB_ADDR		4
+#define RTL8309N_MIB_PAGE		15
+#define RTL8309N_MIB_CTRL_REG		16	/* bit p: port p counts */
+#define RTL8309N_MIB_ENABLE_BIT		15	/* global counting */
+#define RTL8309N_MIB_RESET_REG		17	/* bit p: clear port p, self-clearing */
+#define RTL8309N_MIB_SELECT_REG		18
+#define RTL8309N_MIB_SELECT_PORT_SHIFT	4	/* bits 7..4 port, bits 3..0 counter */
+#define RTL8309N_MIB_SELECT_BUSY_BIT	15	/* start; cleared once latched */
+#define RTL8309N_MIB_SELECT_BUSY	0x8000
+#define RTL8309N_MIB_LOW_WORDS_REG	19	/* 19, 20: words of counter c */
+#define RTL8309N_MIB_HIGH_WORDS_REG	21	/* 21, 22: words of counter c + 1 */
+#define RTL8309N_MIB_OVERFLOW_REG	23	/* bit p: port p overflowed */
 
 /* ---- Port and MAC mirroring ---- */
+#define RTL8309N_MIRROR_ADDR		5
+#define RTL8309N_MIRROR_PAGE		15
+#define RTL8309N_MIRROR_CTRL_REG	16
+#define RTL8309N_MIRROR_PORT_LSB	0	/* bits 3..0: mirror port */
+#define RTL8309N_MIRROR_PORT_WIDTH	4
+#define RTL8309N_MIRROR_MAC_EN_BIT	4
+#define RTL8309N_MIRROR_SELF_FILTER_BIT	5
+#define RTL8309N_MIRROR_PAUSE_BIT	6
+#define RTL8309N_MIRROR_MASK_B_REG	17	/* bits 8..0 */
+#define RTL8309N_MIRROR_MASK_A_REG	18	/* bits 8..0 */
+#define RTL8309N_MIRROR_MASK_WIDTH	9
+#define RTL8309N_MIRROR_MAC_REG		19	/* 19..21: MAC bytes 0/1, 2/3, 4/5 */
 
 /* ---- L2 address table ---- */
+#define RTL8309N_L2_ADDR		6
+#define RTL8309N_L2_PAGE		15
+#define RTL8309N_L2_CTRL_REG		16
+#define RTL8309N_L2_ACCESS_BIT		0	/* held during one entry command */
+#define RTL8309N_L2_HASH_MODE_BIT	1
+#define RTL8309N_L2_CAM_DISABLE_BIT	3
+#define RTL8309N_L2_LRU_BIT		4
+#define RTL8309N_L2_FAST_AGING_BIT	5
+#define RTL8309N_L2_FLUSH_BIT		6
+#define RTL8309N_L2_DA_BLOCK_ACT_BIT	7	/* 1: drop, 0: trap */
+#define RTL8309N_L2_SA_BLOCK_ACT_BIT	8	/* 1: drop, 0: trap */
+#define RTL8309N_L2_AGING_BIT		11
+#define RTL8309N_L2_DP_MASK_BIT		12
+#define RTL8309N_L2_UNKNOWN_DA_KEEP_BIT	13	/* 1: unknown-DA drop disabled */
+#define RTL8309N_L2_LIMIT_REG		17
+#define RTL8309N_L2_SYS_LIMIT_B_WIDTH	9	/* bits 8..0 */
+#define RTL8309N_L2_LIMIT_ACT_BIT	9	/* 1: trap, 0: drop */
+#define RTL8309N_L2_CMD_REG		18
+#define RTL8309N_L2_CMD_INDEX_MASK	0x07FF
+#define RTL8309N_L2_CMD_BUSY_BIT	11	/* execute; the chip clears it */
+#define RTL8309N_L2_CMD_READ_BIT	12	/* 1 read, 0 write */
+#define RTL8309N_L2_ENTRY_REG		19	/* control word */
+#define RTL8309N_L2_MAC_REG		20	/* 20..22: MAC bytes 4/5, 2/3, 0/1 */
+#define RTL8309N_L2_SYS_LIMIT_REG	23
+#define RTL8309N_L2_SYS_LIMIT_A_WIDTH	8	/* bits 7..0 */
+#define RTL8309N_L2_SYS_LIMIT_EN_BIT	8
+#define RTL8309N_L2_SYS_COUNT_REG	24
+#define RTL8309N_L2_COUNT_WIDTH		11	/* learning counters, bits 10..0 */
+/* Per port: SMI address = port, page 5. */
+#define RTL8309N_L2_PORT_PAGE		5
+#define RTL8309N_L2_PORT_LIMIT_REG	16
+#define RTL8309N_L2_PORT_LIMIT_EN_BIT	1
+#define RTL8309N_L2_PORT_LIMIT_LSB	11	/* bits 15..11 */
+#define RTL8309N_L2_PORT_LIMIT_WIDTH	5
+#define RTL8309N_L2_PORT_COUNT_REG	17
+
+/* Unicast and multicast entry control words (register 19). */
+#define RTL8309N_L2_WORD_FID_MASK	0x0003
+#define RTL8309N_L2_WORD_PORT_SHIFT	2	/* unicast: bits 5..2 */
+#define RTL8309N_L2_WORD_PORT_MASK	0x000F
+#define RTL8309N_L2_WORD_AGE_SHIFT	6	/* unicast: bits 7..6, Gray coded */
+#define RTL8309N_L2_WORD_STATIC		0x0100
+#define RTL8309N_L2_WORD_BLOCK9		0x0200
+#define RTL8309N_L2_WORD_BLOCK10	0x0400
+#define RTL8309N_L2_WORD_AUTH		0x0800
+#define RTL8309N_L2_WORD_PMASK_SHIFT	2	/* multicast: bits 10..2 */
+#define RTL8309N_L2_WORD_VALID		0x0800	/* multicast */
 
 /* ---- STP and 802.1X ---- */
+#define RTL8309N_STP_PAGE		2	/* on the port's own address */
+#define RTL8309N_STP_REG		16
+#define RTL8309N_STP_STATE_MASK		0x0003
+#define RTL8309N_STP_STATE_MAX		3	/* highest code the getter reports */
+
+#define RTL8309N_DOT1X_PORT_PAGE	3	/* on the port's own address */
+#define RTL8309N_DOT1X_PORT_REG		16
+#define RTL8309N_DOT1X_PORT_EN_BIT	0
+#define RTL8309N_DOT1X_PORT_AUTH_BIT	1
+#define RTL8309N_DOT1X_PORT_DIR_BIT	2
+#define RTL8309N_DOT1X_MAC_EN_BIT	3
+
+#define RTL8309N_DOT1X_GLB_ADDR		0
+#define RTL8309N_DOT1X_GLB_PAGE		15
+#define RTL8309N_DOT1X_GLB_REG		16
+#define RTL8309N_DOT1X_UNAUTH_TYPE	1	/* unauthorised action: abnormal-packet type 1 */
+#define RTL8309N_DOT1X_MAC_DIR_BIT	1
 
 /* ---- Traps, reserved multicast, IGMP ---- */
+#define RTL8309N_RMA_ADDR		2
+#define RTL8309N_RMA_PAGE		15
+#define RTL8309N_RMA_REG_BASE		16	/* entries 2k and 2k+1 in register 16 + k */
+#define RTL8309N_RMA_USER_REG		25	/* user entry: high slot */
+#define RTL8309N_RMA_USER_MAC_REG	26	/* 26..28, MAC byte 2k in bits 7..0 */
+#define RTL8309N_RMA_SLOT_MASK		0x1F
+#define RTL8309N_RMA_HIGH_SLOT		8	/* shift of the odd entry's slot */
+#define RTL8309N_RMA_ACTION_MASK	0x3	/* slot bits 1..0 */
+#define RTL8309N_RMA_FLAG_SHIFT		2
+#define RTL8309N_RMA_VALUE_SHIFT	3
+#define RTL8309N_RMA_VALUE_MASK		0x3	/* slot bits 4..3 */
+
+#define RTL8309N_IGMP_ADDR		1
+#define RTL8309N_IGMP_PAGE		15
+#define RTL8309N_IGMP_REG		16
+#define RTL8309N_IGMP_TYPE0_EN_BIT	0
+#define RTL8309N_IGMP_TYPE1_EN_BIT	1
+#define RTL8309N_IGMP_TYPE23_DIS_BIT	2	/* active low, shared by types 2 and 3 */
+
+/* Trap bits on address 6: set means drop */
+#define RTL8309N_TRAP_ADDR		6
+#define RTL8309N_TRAP_PAGE		15
+#define RTL8309N_TRAP_REG		16
+#define RTL8309N_TRAP_UNKNOWN_MC0_BIT	9
+#define RTL8309N_TRAP_UNKNOWN_MC1_BIT	10
+#define RTL8309N_TRAP_ABNORMAL2_BIT	8	/* also the L2 SA-block action */
+#define RTL8309N_TRAP_ABNORMAL3_BIT	7	/* also the L2 DA-block action */
+/* Abnormal-packet types 0 and 1 on address 0: set means trap */
+#define RTL8309N_TRAP_ABNORMAL0_ADDR	0
+#define RTL8309N_TRAP_ABNORMAL0_PAGE	16
+#define RTL8309N_TRAP_ABNORMAL0_REG	16
+#define RTL8309N_TRAP_ABNORMAL0_BIT	2
+#define RTL8309N_TRAP_ABNORMAL1_ADDR	0
+#define RTL8309N_TRAP_ABNORMAL1_PAGE	15
+#define RTL8309N_TRAP_ABNORMAL1_REG	16
+#define RTL8309N_TRAP_ABNORMAL1_BIT	0	/* also the 802.1X unauthorised action */
 
 /* ---- Interrupts and storm filtering ---- */
+#define RTL8309N_INTR_ADDR		0
+#define RTL8309N_INTR_PAGE		17
+#define RTL8309N_INTR_CTRL_REG		16
+#define RTL8309N_INTR_GLOBAL_EN_BIT	15
+#define RTL8309N_INTR_STATUS_REG	17
+#define RTL8309N_INTR_SOURCES		13	/* bits 12..0 of both registers */
 
-/* ---- Loop detection, ISP/WAN, LEDs, wake-up ---- */
+#define RTL8309N_STORM_PAGE		8	/* on the port's own address */
+#define RTL8309N_STORM0_CTRL_REG	22	/* rate and second value follow */
+#define RTL8309N_STORM12_CTRL_REG	19	/* shared by types 1 and 2 */
+#define RTL8309N_STORM3_CTRL_REG	16
+#define RTL8309N_STORM_RATE_OFS		1	/* rate register: control + 1 */
+#define RTL8309N_STORM_PARAM_OFS	2	/* second value: control + 2 */
+#define RTL8309N_STORM_EN_BIT		0
+#define RTL8309N_STORM_CTRLFLAG_BIT	1
+#define RTL8309N_STORM_STATUS_BIT	2
+#define RTL8309N_STORM_TYPESEL_BIT	3	/* register 19 only: 1 serves type 2 */
+#define RTL8309N_STORM_RATE_HI_BIT	15	/* bit 16 of the rate */
+#define RTL8309N_STORM_RATE_LO_MASK	0xFFFF
+#define RTL8309N_STORM_GLB_ADDR		6
+#define RTL8309N_STORM_GLB_PAGE		14
+#define RTL8309N_STORM_GLB_REG		16
+#define RTL8309N_STORM_GLB_BIT		0
+
+/* ---- Loop detection RLDP/RLPP ---- */
+#define RTL8309N_RLDP_ADDR		4
+#define RTL8309N_RLDP_PAGE		14
+#define RTL8309N_RLDP_MAC_REG		16	/* 16..18, MAC byte 2k in bits 7..0 */
+#define RTL8309N_RLDP_CTRL_REG		19
+#define RTL8309N_RLDP_STATUS_REG	20	/* read only */
+#define RTL8309N_RLDP_PROTO_REG		21
+#define RTL8309N_RLDP_DIS_BIT		0	/* active low */
+#define RTL8309N_RLPP_ACTION_BIT	1	/* set: action 0, clear: action 2 */
+#define RTL8309N_RLDP_ATTR1_SHIFT	2	/* bits 3..2 */
+#define RTL8309N_RLDP_PRI_EN_BIT	4
+#define RTL8309N_RLDP_ATTR2_SHIFT	5	/* bits 6..5 */
+#define RTL8309N_RLDP_TTL_EN_BIT	7
+#define RTL8309N_RLDP_ATTR3_SHIFT	8	/* bits 11..8 */
+#define RTL8309N_RLDP_STORM_DIS_BIT	12	/* active low */
+#define RTL8309N_RLDP_VLANTAG_EN_BIT	13
+#define RTL8309N_RLDP_ID_EN_BIT		14
+#define RTL8309N_RLDP_ATTR12_MASK	0x3
+#define RTL8309N_RLDP_ATTR3_MASK	0xF
+
+/* ---- ISP / WAN port ---- */
+#define RTL8309N_ISP_ADDR		1
+#define RTL8309N_ISP_PAGE		17
+#define RTL8309N_ISP_CTRL_REG		16
+#define RTL8309N_ISP_EN_BIT		0
+#define RTL8309N_ISP_WAN_REG		17
+#define RTL8309N_ISP_WAN_WIDTH		4	/* read back as bits 3..0 */
+#define RTL8309N_ISP_MAC_REG		18	/* 18..20, MAC byte 2k in bits 7..0 */
+
+/* ---- LEDs and buzzer ---- */
+#define RTL8309N_LED_ADDR		1
+#define RTL8309N_LED_PAGE		14
+#define RTL8309N_LED_CTRL_REG		16
+#define RTL8309N_LED_MODE_SHIFT		0	/* bits 2..0 */
+#define RTL8309N_LED_BLINK_SHIFT	3
+#define RTL8309N_LED_RSTBLINK_DIS_BIT	4	/* active low */
+#define RTL8309N_LED_RLDP_EN_BIT	5
+#define RTL8309N_LED_RLPP_RATE_BIT	6	/* set: rate 3, clear: rate 2 */
+#define RTL8309N_LED_BUZZER_BIT		7
+#define RTL8309N_LED_RTCT_GROUP_BIT	8
+#define RTL8309N_LED_RTCT_G0_SHIFT	9	/* bits 10..9 */
+#define RTL8309N_LED_RTCT_G1_SHIFT	11	/* bits 12..11 */
+#define RTL8309N_LED_RTCT_RESULT_BIT	13	/* set: result 7, clear: result 5 */
+#define RTL8309N_LED_LED1_EN_BIT	14
+#define RTL8309N_LED_CPU1_REG		17	/* first value: group 0 low byte, 1 high */
+#define RTL8309N_LED_CPU2_REG		18	/* second value, same layout */
+#define RTL8309N_LED_RLPP_MSK_REG	19
+
+/* ---- Wake-up ---- */
+#define RTL8309N_WKP_ADDR		7
+#define RTL8309N_WKP_PAGE		14
+#define RTL8309N_WKP_CTRL_REG		20
+#define RTL8309N_WKP_EN1_BIT		0
+#define RTL8309N_WKP_EN2_BIT		1
+#define RTL8309N_WKP_LINK_EN_BIT	2
+#define RTL8309N_WKP_FRAME_EN_BIT	3
+#define RTL8309N_WKP_LINK_MASK_REG	21
+#define RTL8309N_WKP_LINK_STATUS_REG	22	/* read only */
+#define RTL8309N_WKP_FRAME_MASK1_REG	23
+#define RTL8309N_WKP_FRAME_MASK2_REG	24
+#define RTL8309N_WKP_FRAME_REG		25
+#define RTL8309N_WKP_FRAME_FLAG1_BIT	0
+#define RTL8309N_WKP_FRAME_FLAG2_BIT	1
+#define RTL8309N_WKP_FRAME_STATUS_BIT	2	/* read only */
 
 #endif /* RTL8309N_REGS_H */

@@ -1,0 +1,657 @@
+// SPDX-License-Identifier: GPL-2.0
+/*
+ * L2 address table of the RTL8309N family: 2048 entries behind the
+ * command and data registers of SMI address 6, page 15.
+ *
+ * An entry index is (way << 9) | bucket, the bucket being a 9-bit hash of
+ * MAC and FID, so each bucket has four ways.  Every address operation
+ * hashes once and visits the ways from 3 down to 0, reading each entry
+ * afresh; MACs are compared, the FID only chooses the bucket.
+ *
+ * block9 and block10 are carried between the record and entry bits 9 and
+ * 10 without this layer deciding which one blocks by source and which by
+ * destination.  The completion poll is a bare count of 100 reads with no
+ * delay between them; each read is three MDIO transactions, which is all
+ * the pacing it gets.  A transport much faster than MDIO would need a
+ * short delay there.
+ */
+#include "rtl8309n_internal.h"
+#include "rtl8309n_regs.h"
+
+#define L2_WAY_SHIFT		9
+#define L2_INDEX(hash, way)	(((way) << L2_WAY_SHIFT) | (hash))
+#define L2_IS_MCAST(mac)	((mac)[0] & 1)
+#define L2_HASH_BITS		9
+#define L2_PORTMASK_MAX		0x1FF
+#define L2_SYS_LIMIT_A_MAX	255
+#define L2_SYS_LIMIT_B_MAX	511
+
+/*
+ * Hash terms.  T(k, n) is bit n of MAC byte k (byte 0 first on the wire);
+ * the FID stands behind the MAC as "byte 6".  Every listed term counts,
+ * including the second appearance of bit 1.7 in mode 1: the chip hashes
+ * exactly so.
+ */
+#define T(k, n)			((k) * 8 + (n))
+#define FID0			T(6, 0)
+#define FID1			T(6, 1)
+#define T_END			0xFF
+#define L2_HASH_TERMS		7
+
+static const u8 l2_hash_terms[2][L2_HASH_BITS][L2_HASH_TERMS] = {
+	{	/* mode 0 */
+		{ T(4, 4), T(5, 3), T(2, 6), T(3, 5), T(1, 7), T_END },
+		{ T(4, 5), T(5, 4), T(3, 6), T(0, 0), T(2, 7), T_END },
+		{ T(4, 6), T(5, 5), T(0, 1), T(1, 0), T(3, 7), T_END },
+		{ T(2, 0), T(4, 7), T(0, 2), T(1, 1), T(5, 6), T_END },
+		{ T(1, 2), T(2, 1), T(0, 3), T(3, 0), T(5, 7), FID1, T_END },
+		{ T(2, 2), T(3, 1), T(4, 0), T(0, 4), T(1, 3), FID0, T_END },
+		{ T(1, 4), T(2, 3), T(3, 2), T(4, 1), T(5, 0), T(0, 5), T_END },
+		{ T(4, 2), T(5, 1), T(2, 4), T(3, 3), T(0, 6), T(1, 5), T_END },
+		{ T(4, 3), T(5, 2), T(2, 5), T(3, 4), T(1, 6), T(0, 7), T_END },
+	},
+	{	/* mode 1 */
+		{ T(1, 0), T(2, 0), T(3, 0), T(4, 0), FID0, T(1, 7), T_END },
+		{ T(0, 0), T(5, 0), T(1, 1), T(2, 1), T(3, 1), T(4, 1), T_END },
+		{ T(0, 1), T(1, 2), T(2, 2), T(3, 2), T(4, 2), T(5, 1), T_END },
+		{ T(0, 2), T(1, 3), T(2, 3), T(3, 3), T(4, 3), T(5, 2), T_END },
+		{ T(0, 3), T(1, 4), T(2, 4), T(3, 4), T(5, 3), T_END },
+		{ T(0, 4), T(1, 5), T(2, 5), T(4, 4), T(5, 4), T_END },
+		{ T(0, 5), T(1, 6), T(3, 5), T(4, 5), T(5, 5), T_END },
+		{ T(0, 6), T(2, 6), T(3, 6), T(4, 6), T(5, 6), T_END },
+		{ T(0, 7), T(1, 7), T(2, 7), T(3, 7), T(5, 7), FID1, T_END },
+	},
+};
+
+/* The table controls, one field each. */
+enum l2_field_id {
+	L2_F_HASH_MODE,
+	L2_F_CAM,
+	L2_F_LRU,
+	L2_F_FAST_AGING,
+	L2_F_FLUSH,
+	L2_F_DA_BLOCK_ACT,
+	L2_F_SA_BLOCK_ACT,
+	L2_F_AGING,
+	L2_F_DP_MASK,
+	L2_F_UNKNOWN_DA_DROP,
+	L2_F_SYS_LIMIT_B,
+	L2_F_LIMIT_ACT,
+	L2_F_SYS_LIMIT_A,
+	L2_F_SYS_LIMIT_EN,
+	L2_F_SYS_COUNT,
+	L2_F_PORT_LIMIT_EN,
+	L2_F_PORT_LIMIT,
+	L2_F_PORT_COUNT,
+};
+
+#define L2_CTRL_BIT(bit, pol)	\
+	RTL8309N_GLOBAL_BIT(RTL8309N_L2_ADDR, RTL8309N_L2_CTRL_REG, RTL8309N_L2_PAGE, bit, pol)
+#define L2_GLOBAL(reg, lsb, width)	\
+	RTL8309N_GLOBAL_FIELD(RTL8309N_L2_ADDR, reg, RTL8309N_L2_PAGE, lsb, width)
+#define L2_PER_PORT(reg, low, bits)						\
+	{ .regad = (reg), .npage = RTL8309N_L2_PORT_PAGE, .lsb = (low), .width = (bits),	\
+	  .pol = RTL8309N_ACTIVE_HIGH, .index = RTL8309N_PORT_ADDR }
+
+static const struct rtl8309n_regfield l2_fields[] = {
+	[L2_F_HASH_MODE] = L2_CTRL_BIT(RTL8309N_L2_HASH_MODE_BIT, RTL8309N_ACTIVE_HIGH),
+	[L2_F_CAM] = L2_CTRL_BIT(RTL8309N_L2_CAM_DISABLE_BIT, RTL8309N_ACTIVE_LOW),
+	[L2_F_LRU] = L2_CTRL_BIT(RTL8309N_L2_LRU_BIT, RTL8309N_ACTIVE_HIGH),
+	[L2_F_FAST_AGING] = L2_CTRL_BIT(RTL8309N_L2_FAST_AGING_BIT, RTL8309N_ACTIVE_HIGH),
+	[L2_F_FLUSH] = L2_CTRL_BIT(RTL8309N_L2_FLUSH_BIT, RTL8309N_ACTIVE_HIGH),
+	[L2_F_DA_BLOCK_ACT] = L2_CTRL_BIT(RTL8309N_L2_DA_BLOCK_ACT_BIT, RTL8309N_ACTIVE_HIGH),
+	[L2_F_SA_BLOCK_ACT] = L2_CTRL_BIT(RTL8309N_L2_SA_BLOCK_ACT_BIT, RTL8309N_ACTIVE_HIGH),
+	[L2_F_AGING] = L2_CTRL_BIT(RTL8309N_L2_AGING_BIT, RTL8309N_ACTIVE_HIGH),
+	[L2_F_DP_MASK] = L2_CTRL_BIT(RTL8309N_L2_DP_MASK_BIT, RTL8309N_ACTIVE_HIGH),
+	[L2_F_UNKNOWN_DA_DROP] = L2_CTRL_BIT(RTL8309N_L2_UNKNOWN_DA_KEEP_BIT, RTL8309N_ACTIVE_LOW),
+	[L2_F_SYS_LIMIT_B] = L2_GLOBAL(RTL8309N_L2_LIMIT_REG, 0, RTL8309N_L2_SYS_LIMIT_B_WIDTH),
+	[L2_F_LIMIT_ACT] = L2_GLOBAL(RTL8309N_L2_LIMIT_REG, RTL8309N_L2_LIMIT_ACT_BIT, 1),
+	[L2_F_SYS_LIMIT_A] = L2_GLOBAL(RTL8309N_L2_SYS_LIMIT_REG, 0, RTL8309N_L2_SYS_LIMIT_A_WIDTH),
+	[L2_F_SYS_LIMIT_EN] = L2_GLOBAL(RTL8309N_L2_SYS_LIMIT_REG, RTL8309N_L2_SYS_LIMIT_EN_BIT, 1),
+	[L2_F_SYS_COUNT] = L2_GLOBAL(RTL8309N_L2_SYS_COUNT_REG, 0, RTL8309N_L2_COUNT_WIDTH),
+	[L2_F_PORT_LIMIT_EN] = L2_PER_PORT(RTL8309N_L2_PORT_LIMIT_REG,
+					   RTL8309N_L2_PORT_LIMIT_EN_BIT, 1),
+	[L2_F_PORT_LIMIT] = L2_PER_PORT(RTL8309N_L2_PORT_LIMIT_REG, RTL8309N_L2_PORT_LIMIT_LSB,
+					RTL8309N_L2_PORT_LIMIT_WIDTH),
+	[L2_F_PORT_COUNT] = L2_PER_PORT(RTL8309N_L2_PORT_COUNT_REG, 0, RTL8309N_L2_COUNT_WIDTH),
+};
+
+/* Age codes are stored Gray-like (2 as 0b11, 3 as 0b10); the map is its own inverse. */
+static const u8 l2_age_code[RTL8309N_L2_MAX_AGE + 1] = { 0, 1, 3, 2 };
+
+/* An entry as the data registers carry it. */
+struct l2_raw {
+	u32 word;
+	u8 mac[RTL8309N_MAC_LEN];
+};
+
+/* Position in a way scan of one bucket. */
+struct l2_scan {
+	u32 hash;
+	u32 way;		/* ways still to visit: way - 1 down to 0 */
+	u32 index;		/* entry index of the way just read */
+	struct l2_raw raw;	/* and its contents */
+};
+
+static const rtl8309n_l2_ucastEntry l2_empty_entry;
+
+/* ---- Entry access ---- */
+
+static void l2_access(u32 on)
+{
+	rtl8309n_regbit_set(RTL8309N_L2_ADDR, RTL8309N_L2_CTRL_REG, RTL8309N_L2_ACCESS_BIT,
+			    RTL8309N_L2_PAGE, on);
+}
+
+/* Run a command under the access bit; a timeout leaves the bit set. */
+static s32 l2_command(u32 index, u32 read)
+{
+	rtl8309n_reg_set(RTL8309N_L2_ADDR, RTL8309N_L2_CMD_REG, RTL8309N_L2_PAGE,
+			 (u16)(index & RTL8309N_L2_CMD_INDEX_MASK));
+	rtl8309n_regbit_set(RTL8309N_L2_ADDR, RTL8309N_L2_CMD_REG, RTL8309N_L2_CMD_READ_BIT,
+			    RTL8309N_L2_PAGE, read);
+	return rtl8309n_cmd_exec(RTL8309N_L2_ADDR, RTL8309N_L2_CMD_REG, RTL8309N_L2_CMD_BUSY_BIT,
+				 RTL8309N_L2_PAGE);
+}
+
+static s32 l2_entry_write(u32 index, u32 word, const u8 *mac)
+{
+	l2_access(1);
+	rtl8309n_reg_set(RTL8309N_L2_ADDR, RTL8309N_L2_ENTRY_REG, RTL8309N_L2_PAGE, (u16)word);
+	rtl8309n_mac_regs_set(RTL8309N_L2_ADDR, RTL8309N_L2_MAC_REG, RTL8309N_L2_PAGE, 1, mac);
+	if (l2_command(index, 0) != RT_ERR_OK)
+		return RT_ERR_FAILED;
+	l2_access(0);
+	return RT_ERR_OK;
+}
+
+static s32 l2_read_command(u32 index)
+{
+	l2_access(1);
+	return l2_command(index, 1);
+}
+
+static s32 l2_entry_read(u32 index, struct l2_raw *raw)
+{
+	if (l2_read_command(index) != RT_ERR_OK)
+		return RT_ERR_FAILED;
+	raw->word = 0;
+	rtl8309n_reg_get(RTL8309N_L2_ADDR, RTL8309N_L2_ENTRY_REG, RTL8309N_L2_PAGE, &raw->word);
+	rtl8309n_mac_regs_get(RTL8309N_L2_ADDR, RTL8309N_L2_MAC_REG, RTL8309N_L2_PAGE, 1,
+			      raw->mac);
+	l2_access(0);
+	return RT_ERR_OK;
+}
+
+static void l2_mac_copy(u8 *dst, const u8 *src)
+{
+	u32 i;
+
+	for (i = 0; i < RTL8309N_MAC_LEN; i++)
+		dst[i] = src[i];
+}
+
+static int l2_mac_equal(const u8 *a, const u8 *b)
+{
+	u32 i;
+
+	for (i = 0; i < RTL8309N_MAC_LEN; i++)
+		if (a[i] != b[i])
+			return 0;
+	return 1;
+}
+
+static void l2_ucast_decode(const struct l2_raw *raw, rtl8309n_l2_ucastEntry *entry)
+{
+	u32 w = raw->word;
+
+	entry->isStatic = !!(w & RTL8309N_L2_WORD_STATIC);
+	entry->auth = !!(w & RTL8309N_L2_WORD_AUTH);
+	entry->block10 = !!(w & RTL8309N_L2_WORD_BLOCK10);
+	entry->block9 = !!(w & RTL8309N_L2_WORD_BLOCK9);
+	entry->age = l2_age_code[(w >> RTL8309N_L2_WORD_AGE_SHIFT) & RTL8309N_L2_MAX_AGE];
+	entry->port = (w >> RTL8309N_L2_WORD_PORT_SHIFT) & RTL8309N_L2_WORD_PORT_MASK;
+	entry->fid = w & RTL8309N_L2_WORD_FID_MASK;
+	l2_mac_copy(entry->mac, raw->mac);
+}
+
+static void l2_mcast_decode(const struct l2_raw *raw, rtl8309n_l2_mcastEntry *entry)
+{
+	entry->valid = !!(raw->word & RTL8309N_L2_WORD_VALID);
+	entry->fid = raw->word & RTL8309N_L2_WORD_FID_MASK;
+	entry->portMask = (raw->word >> RTL8309N_L2_WORD_PMASK_SHIFT) & L2_PORTMASK_MAX;
+	l2_mac_copy(entry->mac, raw->mac);
+}
+
+/*
+ * Flags count as set only when exactly 1.  The FID is or-ed in as given:
+ * one above 3 spills into the port bits, which callers must not rely on.
+ */
+s32 rtl8309n_l2_ucastEntry_set(u32 index, const rtl8309n_l2_ucastEntry *entry)
+{
+	u32 word;
+
+	/* A NULL record is refused rather than dereferenced. */
+	if (!entry || L2_IS_MCAST(entry->mac) || entry->age > RTL8309N_L2_MAX_AGE ||
+	    entry->port > RTL8309N_MAX_PORT)
+		return RT_ERR_FAILED;
+
+	word = entry->fid | entry->port << RTL8309N_L2_WORD_PORT_SHIFT |
+	       (u32)l2_age_code[entry->age] << RTL8309N_L2_WORD_AGE_SHIFT;
+	if (entry->isStatic == 1)
+		word |= RTL8309N_L2_WORD_STATIC;
+	if (entry->block9 == 1)
+		word |= RTL8309N_L2_WORD_BLOCK9;
+	if (entry->block10 == 1)
+		word |= RTL8309N_L2_WORD_BLOCK10;
+	if (entry->auth == 1)
+		word |= RTL8309N_L2_WORD_AUTH;
+	return l2_entry_write(index, word, entry->mac);
+}
+
+s32 rtl8309n_l2_ucastEntry_get(u32 index, rtl8309n_l2_ucastEntry *entry)
+{
+	struct l2_raw raw;
+
+	if (!entry || l2_entry_read(index, &raw) != RT_ERR_OK)
+		return RT_ERR_FAILED;
+	l2_ucast_decode(&raw, entry);
+	return RT_ERR_OK;
+}
+
+/* Unlike the unicast FID, a multicast FID is cut to its two bits. */
+s32 rtl8309n_l2_mcastEntry_set(u32 index, const rtl8309n_l2_mcastEntry *entry)
+{
+	u32 word;
+
+	if (!entry || entry->portMask > L2_PORTMASK_MAX || !L2_IS_MCAST(entry->mac))
+		return RT_ERR_FAILED;
+
+	word = (entry->fid & RTL8309N_L2_WORD_FID_MASK) |
+	       entry->portMask << RTL8309N_L2_WORD_PMASK_SHIFT;
+	if (entry->valid == 1)
+		word |= RTL8309N_L2_WORD_VALID;
+	return l2_entry_write(index, word, entry->mac);
+}
+
+s32 rtl8309n_l2_mcastEntry_get(u32 index, rtl8309n_l2_mcastEntry *entry)
+{
+	struct l2_raw raw;
+
+	if (!entry || l2_entry_read(index, &raw) != RT_ERR_OK)
+		return RT_ERR_FAILED;
+	l2_mcast_decode(&raw, entry);
+	return RT_ERR_OK;
+}
+
+/* Reads the MAC only and, unlike the entry reads, leaves the access bit set. */
+s32 rtl8309n_l2_macAddr_get(u32 index, u8 *mac)
+{
+	if (!mac || l2_read_command(index) != RT_ERR_OK)
+		return RT_ERR_FAILED;
+	rtl8309n_mac_regs_get(RTL8309N_L2_ADDR, RTL8309N_L2_MAC_REG, RTL8309N_L2_PAGE, 1, mac);
+	return RT_ERR_OK;
+}
+
+/* ---- Hash ---- */
+
+s32 rtl8309n_l2_MacToIdx_get(const u8 *mac, u32 fid, u32 *pindex)
+{
+	u32 mode = 0, hash = 0, bit, t;
+	u8 key[RTL8309N_MAC_LEN + 1];
+
+	if (!mac || !pindex || fid > RTL8309N_L2_MAX_FID)
+		return RT_ERR_FAILED;
+
+	rtl8309n_regbit_get(RTL8309N_L2_ADDR, RTL8309N_L2_CTRL_REG, RTL8309N_L2_HASH_MODE_BIT,
+			    RTL8309N_L2_PAGE, &mode);
+	l2_mac_copy(key, mac);
+	key[RTL8309N_MAC_LEN] = (u8)fid;
+	for (bit = 0; bit < L2_HASH_BITS; bit++) {
+		const u8 *term = l2_hash_terms[mode][bit];
+		u32 x = 0;
+
+		for (t = 0; t < L2_HASH_TERMS && term[t] != T_END; t++)
+			x ^= (key[term[t] / 8] >> (term[t] % 8)) & 1;
+		hash |= x << bit;
+	}
+	*pindex = hash;
+	return RT_ERR_OK;
+}
+
+s32 rtl8309n_l2_hashmode_set(u32 mode)
+{
+	return rtl8309n_regfield_set(&l2_fields[L2_F_HASH_MODE], 0, mode);
+}
+
+s32 rtl8309n_l2_hashmode_get(u32 *pmode)
+{
+	return rtl8309n_regfield_get(&l2_fields[L2_F_HASH_MODE], 0, pmode);
+}
+
+/* ---- Address operations ---- */
+
+static void l2_scan_start(struct l2_scan *sc, const u8 *mac, u32 fid)
+{
+	sc->hash = 0;
+	rtl8309n_l2_MacToIdx_get(mac, fid, &sc->hash);
+	sc->way = RTL8309N_L2_WAY_NUM;
+}
+
+/*
+ * Age does not protect an entry: a learned one is replaceable while still
+ * aging; static, authorised and multicast ones are not.
+ */
+static int l2_replaceable(const struct l2_raw *raw)
+{
+	return !L2_IS_MCAST(raw->mac) &&
+	       !(raw->word & (RTL8309N_L2_WORD_AUTH | RTL8309N_L2_WORD_STATIC));
+}
+
+/*
+ * Read the remaining ways until one holds @key or, with a NULL @key, until
+ * one is replaceable.  RT_ERR_OK with sc->index and sc->raw describing it,
+ * RTL8309N_L2_NOT_FOUND when no way is left, RT_ERR_FAILED on a failed read.
+ */
+static s32 l2_scan_next(struct l2_scan *sc, const u8 *key)
+{
+	while (sc->way > 0) {
+		sc->way--;
+		sc->index = L2_INDEX(sc->hash, sc->way);
+		if (l2_entry_read(sc->index, &sc->raw) != RT_ERR_OK)
+			return RT_ERR_FAILED;
+		if (key ? l2_mac_equal(sc->raw.mac, key) : l2_replaceable(&sc->raw))
+			return RT_ERR_OK;
+	}
+	return RTL8309N_L2_NOT_FOUND;
+}
+
+/*
+ * The way an add uses: the one already holding @mac (*matched = 1), else
+ * the first replaceable one, each search from way 3 down.
+ */
+static s32 l2_add_find(struct l2_scan *sc, const u8 *mac, u32 fid, int *matched)
+{
+	s32 ret;
+
+	l2_scan_start(sc, mac, fid);
+	ret = l2_scan_next(sc, mac);
+	*matched = ret == RT_ERR_OK;
+	if (ret != RTL8309N_L2_NOT_FOUND)
+		return ret;
+	sc->way = RTL8309N_L2_WAY_NUM;
+	return l2_scan_next(sc, NULL);
+}
+
+/* First way holding @mac; *pindex = RTL8309N_L2_NO_INDEX when there is none. */
+static s32 l2_find(struct l2_scan *sc, const u8 *mac, u32 fid, u32 *pindex)
+{
+	s32 ret;
+
+	l2_scan_start(sc, mac, fid);
+	ret = l2_scan_next(sc, mac);
+	if (ret == RTL8309N_L2_NOT_FOUND)
+		*pindex = RTL8309N_L2_NO_INDEX;
+	return ret;
+}
+
+/*
+ * Clear every way holding @mac; *pindex names the last one cleared.
+ * @strict: a failed clearing write ends the call with RT_ERR_FAILED.
+ */
+static s32 l2_clear_all(const u8 *mac, u32 fid, u32 *pindex, int strict)
+{
+	struct l2_scan sc;
+	int found = 0;
+	s32 ret;
+
+	l2_scan_start(&sc, mac, fid);
+	while ((ret = l2_scan_next(&sc, mac)) == RT_ERR_OK) {
+		if (rtl8309n_l2_ucastEntry_set(sc.index, &l2_empty_entry) != RT_ERR_OK && strict)
+			return RT_ERR_FAILED;
+		*pindex = sc.index;
+		found = 1;
+	}
+	if (ret == RT_ERR_FAILED)
+		return ret;
+	if (!found) {
+		*pindex = RTL8309N_L2_NO_INDEX;
+		return RTL8309N_L2_NOT_FOUND;
+	}
+	return RT_ERR_OK;
+}
+
+/*
+ * The caller's record is written as it stands, MAC included; the key MAC
+ * only picks bucket and way.  A matching way is rewritten even when static
+ * or authorised.  The write's own result is not reported.
+ */
+s32 rtl8309n_l2_ucastAddr_add(const u8 *mac, u32 fid, const rtl8309n_l2_ucastEntry *entry,
+			      u32 *pindex)
+{
+	struct l2_scan sc;
+	int matched;
+	s32 ret;
+
+	if (!mac || !pindex || !entry || fid > RTL8309N_L2_MAX_FID || L2_IS_MCAST(mac) ||
+	    L2_IS_MCAST(entry->mac))
+		return RT_ERR_FAILED;
+
+	ret = l2_add_find(&sc, mac, fid, &matched);
+	if (ret == RTL8309N_L2_NOT_FOUND) {
+		*pindex = RTL8309N_L2_NO_INDEX;
+		return RTL8309N_L2_BUCKET_FULL;
+	}
+	if (ret != RT_ERR_OK)
+		return ret;
+	rtl8309n_l2_ucastEntry_set(sc.index, entry);
+	*pindex = sc.index;
+	return RT_ERR_OK;
+}
+
+/*
+ * Only the first way holding @mac counts; if it has aged out and is
+ * neither static nor authorised it is an empty slot, reported as not
+ * found with *pindex left at 0.
+ */
+s32 rtl8309n_l2_ucastAddr_get(const u8 *mac, u32 fid, rtl8309n_l2_ucastEntry *entry,
+			      u32 *pindex)
+{
+	rtl8309n_l2_ucastEntry found;
+	struct l2_scan sc;
+	s32 ret;
+
+	if (!mac || fid > RTL8309N_L2_MAX_FID || L2_IS_MCAST(mac) || !entry || !pindex)
+		return RT_ERR_FAILED;
+
+	*pindex = 0;
+	ret = l2_find(&sc, mac, fid, pindex);
+	if (ret != RT_ERR_OK)
+		return ret;
+	l2_ucast_decode(&sc.raw, &found);
+	if (!found.age && !found.isStatic && !found.auth)
+		return RTL8309N_L2_NOT_FOUND;
+	*entry = found;
+	*pindex = sc.index;
+	return RT_ERR_OK;
+}
+
+/* Failed clearing writes are not reported. */
+s32 rtl8309n_l2_ucastAddr_del(const u8 *mac, u32 fid, u32 *pindex)
+{
+	if (!mac || !pindex || fid > RTL8309N_L2_MAX_FID || L2_IS_MCAST(mac))
+		return RT_ERR_FAILED;
+	return l2_clear_all(mac, fid, pindex, 0);
+}
+
+/*
+ * An existing entry keeps its FID and gets the new mask; a new one takes
+ * the first replaceable way.  A full bucket is reported as
+ * RTL8309N_L2_NOT_FOUND, which the API relies on.
+ */
+s32 rtl8309n_l2_mcastAddr_add(const u8 *mac, u32 fid, u32 portMask, u32 *pindex)
+{
+	rtl8309n_l2_mcastEntry rec;
+	struct l2_scan sc;
+	int matched;
+	s32 ret;
+
+	if (!mac || !pindex || !L2_IS_MCAST(mac) || portMask > L2_PORTMASK_MAX ||
+	    fid > RTL8309N_L2_MAX_FID)
+		return RT_ERR_FAILED;
+
+	ret = l2_add_find(&sc, mac, fid, &matched);
+	if (ret == RTL8309N_L2_NOT_FOUND)
+		*pindex = RTL8309N_L2_NO_INDEX;
+	if (ret != RT_ERR_OK)
+		return ret;
+
+	if (matched) {
+		l2_mcast_decode(&sc.raw, &rec);
+		rec.portMask = portMask;
+		rec.valid = 1;
+		rtl8309n_l2_mcastEntry_set(sc.index, &rec);
+	} else {
+		rec.valid = 1;
+		rec.fid = fid;
+		rec.portMask = portMask;
+		l2_mac_copy(rec.mac, mac);
+		if (rtl8309n_l2_mcastEntry_set(sc.index, &rec) != RT_ERR_OK)
+			return RT_ERR_FAILED;
+	}
+	*pindex = sc.index;
+	return RT_ERR_OK;
+}
+
+/* The entry's valid bit is not looked at. */
+s32 rtl8309n_l2_mcastAddr_get(const u8 *mac, u32 fid, u32 *pportMask, u32 *pindex)
+{
+	rtl8309n_l2_mcastEntry found;
+	struct l2_scan sc;
+	s32 ret;
+
+	if (!pportMask || !pindex || !mac || fid > RTL8309N_L2_MAX_FID || !L2_IS_MCAST(mac))
+		return RT_ERR_FAILED;
+
+	ret = l2_find(&sc, mac, fid, pindex);
+	if (ret != RT_ERR_OK)
+		return ret;
+	l2_mcast_decode(&sc.raw, &found);
+	*pportMask = found.portMask;
+	*pindex = sc.index;
+	return RT_ERR_OK;
+}
+
+s32 rtl8309n_l2_mcastAddr_del(const u8 *mac, u32 fid, u32 *pindex)
+{
+	if (!mac || !pindex || fid > RTL8309N_L2_MAX_FID || !L2_IS_MCAST(mac))
+		return RT_ERR_FAILED;
+	return l2_clear_all(mac, fid, pindex, 1);
+}
+
+/* ---- Table controls ---- */
+
+/*
+ * The getters of the one-bit controls have no pointer check of their own;
+ * the field accessor still refuses NULL before any bus access.
+ */
+
+s32 rtl8309n_l2_portMacLimitEnable_set(u32 port, u32 enabled)
+{
+	return rtl8309n_regfield_set(&l2_fields[L2_F_PORT_LIMIT_EN], port, enabled);
+}
+
+s32 rtl8309n_l2_portMacLimitEnable_get(u32 port, u32 *penabled)
+{
+	return rtl8309n_regfield_get(&l2_fields[L2_F_PORT_LIMIT_EN], port, penabled);
+}
+
+s32 rtl8309n_l2_portMacLimit_set(u32 port, u32 limit)
+{
+	return rtl8309n_regfield_set(&l2_fields[L2_F_PORT_LIMIT], port, limit);
+}
+
+s32 rtl8309n_l2_portMacLimit_get(u32 port, u32 *plimit)
+{
+	return rtl8309n_regfield_get(&l2_fields[L2_F_PORT_LIMIT], port, plimit);
+}
+
+RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_systemMacLimitEnable, l2_fields[L2_F_SYS_LIMIT_EN])
+
+/*
+ * Two limit values: @limitA (8 bits) beside the 9-bit @limitB.  Both are
+ * carried to the chip unchanged; this layer does not interpret them.
+ */
+s32 rtl8309n_l2_systemMacLimit_set(u32 limitA, u32 limitB)
+{
+	if (limitA > L2_SYS_LIMIT_A_MAX || limitB > L2_SYS_LIMIT_B_MAX)
+		return RT_ERR_FAILED;
+	rtl8309n_regfield_set(&l2_fields[L2_F_SYS_LIMIT_A], 0, limitA);
+	rtl8309n_regfield_set(&l2_fields[L2_F_SYS_LIMIT_B], 0, limitB);
+	return RT_ERR_OK;
+}
+
+s32 rtl8309n_l2_systemMacLimit_get(u32 *plimitA, u32 *plimitB)
+{
+	if (!plimitA || !plimitB)
+		return RT_ERR_FAILED;
+	rtl8309n_regfield_get(&l2_fields[L2_F_SYS_LIMIT_A], 0, plimitA);
+	rtl8309n_regfield_get(&l2_fields[L2_F_SYS_LIMIT_B], 0, plimitB);
+	return RT_ERR_OK;
+}
+
+/* A set bit means trap here: the opposite sense of the SA/DA block bits. */
+s32 rtl8309n_l2_macLimitAction_set(u32 action)
+{
+	return rtl8309n_regfield_code_set(&l2_fields[L2_F_LIMIT_ACT], 0, action,
+					  RTL8309N_ACT_TRAP, RTL8309N_ACT_DROP);
+}
+
+s32 rtl8309n_l2_macLimitAction_get(u32 *paction)
+{
+	return rtl8309n_regfield_code_get(&l2_fields[L2_F_LIMIT_ACT], 0, paction,
+					  RTL8309N_ACT_TRAP, RTL8309N_ACT_DROP);
+}
+
+s32 rtl8309n_l2_systemLearningCnt_get(u32 *pcount)
+{
+	return rtl8309n_regfield_get(&l2_fields[L2_F_SYS_COUNT], 0, pcount);
+}
+
+s32 rtl8309n_l2_portlearningCnt_get(u32 port, u32 *pcount)
+{
+	return rtl8309n_regfield_get(&l2_fields[L2_F_PORT_COUNT], port, pcount);
+}
+
+/* CAM and unknown-DA drop sit in disable bits; the field table inverts them. */
+RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_lruEnable, l2_fields[L2_F_LRU])
+RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_camEnable, l2_fields[L2_F_CAM])
+RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_flushEnable, l2_fields[L2_F_FLUSH])
+RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_agingEnable, l2_fields[L2_F_AGING])
+RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_fastAgingEnable, l2_fields[L2_F_FAST_AGING])
+RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_dpMskEnable, l2_fields[L2_F_DP_MASK])
+RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_unkownDaDropEnable, l2_fields[L2_F_UNKNOWN_DA_DROP])
+
+s32 rtl8309n_l2_sablockAction_set(u32 action)
+{
+	return rtl8309n_regfield_code_set(&l2_fields[L2_F_SA_BLOCK_ACT], 0, action,
+					  RTL8309N_ACT_DROP, RTL8309N_ACT_TRAP);
+}
+
+s32 rtl8309n_l2_sablockAction_get(u32 *paction)
+{
+	return rtl8309n_regfield_code_get(&l2_fields[L2_F_SA_BLOCK_ACT], 0, paction,
+					  RTL8309N_ACT_DROP, RTL8309N_ACT_TRAP);
+}
+
+s32 rtl8309n_l2_dablockAction_set(u32 action)
+{
+	return rtl8309n_regfield_code_set(&l2_fields[L2_F_DA_BLOCK_ACT], 0, action,
+					  RTL8309N_ACT_DROP, RTL8309N_ACT_TRAP);
+}
+
+s32 rtl8309n_l2_dablockAction_get(u32 *paction)
+{
+	return rtl8309n_regfield_code_get(&l2_fields[L2_F_DA_BLOCK_ACT], 0, paction,
+					  RTL8309N_ACT_DROP, RTL8309N_ACT_TRAP);
+}

@@ -1,0 +1,120 @@
+// MIB counters: latch sequences, poll bounds, flags and the port reset.
+#include "chip_fixture.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+using Words = std::array<u32, 4>;
+
+class MibTest : public ChipTest {
+protected:
+	Trace Selects()
+	{
+		Trace out;
+		for (const Txn &t : trace())
+			if (t.op == 'W' && t.addr == 4 && t.reg == 18)
+				out.push_back(t);
+		return out;
+	}
+	size_t Count(char op, u32 reg)
+	{
+		return std::count_if(trace().begin(), trace().end(), [&](const Txn &t) {
+			return t.op == op && t.addr == 4 && t.reg == reg;
+		});
+	}
+};
+
+TEST_F(MibTest, CounterReadsSelectThenLatch)
+{
+	Words w{};
+	u32 pkts = 0;
+	rtl8309n_sim_mib_set_bytes(&sim(), 8, 2, 0x1122334455667788ull);
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_byteCnt_get(8, 2, w.data()));
+	EXPECT_EQ((Words{0x7788, 0x5566, 0x3344, 0x1122}), w);
+	EXPECT_EQ((Trace{W(4, 18, 0x8082), W(4, 18, 0x8083)}), Selects());
+
+	rtl8309n_sim_mib_set(&sim(), 3, 15, 0xABCD1234);
+	ClearTrace();
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_pktCnt_get(3, 15, &pkts));
+	EXPECT_EQ(0xABCD1234u, pkts);
+	EXPECT_EQ((Trace{W(4, 18, 0x803F)}), Selects());
+}
+
+// Each latch polls up to 100 reads afresh; a timeout stores nothing.
+TEST_F(MibTest, LatchPollBound)
+{
+	for (u32 busy_reads : {99u, 100u}) {
+		SCOPED_TRACE(busy_reads);
+		const bool ok = busy_reads < 100;
+		Words w{7, 7, 7, 7};
+		u32 pkts = 7;
+		rtl8309n_sim_mib_set_bytes(&sim(), 0, 0, 0x0001000200030004ull);
+		rtl8309n_sim_fault_busy(&sim(), SIM_SPACE_SWITCH, 4, 15, 18, 0x8000, busy_reads);
+		ClearTrace();
+		EXPECT_EQ(ok ? RT_ERR_OK : RT_ERR_FAILED, rtl8309n_mib_byteCnt_get(0, 0, w.data()));
+		EXPECT_EQ(ok ? 200u : 100u, Count('R', 18));
+		EXPECT_EQ((ok ? Words{4, 3, 2, 1} : Words{7, 7, 7, 7}), w);
+		ClearTrace();
+		EXPECT_EQ(ok ? RT_ERR_OK : RT_ERR_FAILED, rtl8309n_mib_pktCnt_get(0, 4, &pkts));
+		EXPECT_EQ(100u, Count('R', 18));
+		EXPECT_EQ(ok ? 0u : 7u, pkts);
+	}
+}
+
+TEST_F(MibTest, BadArgumentsFailWithoutBusTraffic)
+{
+	u32 v[4] = {};
+	for (u32 c : {1u, 3u, 4u})
+		EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_byteCnt_get(0, c, v)) << c;
+	for (u32 c : {0u, 1u, 16u})
+		EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_pktCnt_get(0, c, v)) << c;
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_byteCnt_get(9, 0, v));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_pktCnt_get(9, 4, v));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_byteCnt_get(0, 2, nullptr));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_pktCnt_get(0, 4, nullptr));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_overFlowFlag_set(9, 1));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_overFlowFlag_get(9, v));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_overFlowFlag_get(0, nullptr));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_enable_set(2));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_enable_get(nullptr));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_start(16));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_reset(9));
+	EXPECT_TRUE(trace().empty());
+}
+
+TEST_F(MibTest, EnableStartStopAndOverflowBits)
+{
+	u32 v = 9;
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_enable_set(1));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_enable_get(&v)) << "always reports failure";
+	EXPECT_EQ(1u, v) << "... but delivers the flag";
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_start(8));
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_start(9)) << "port not range-checked";
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_stop(9));
+	EXPECT_EQ(0x8100, sw(4, 15, 16));
+	for (u32 flag : {1u, 0u, 2u}) {
+		ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_overFlowFlag_set(8, flag));
+		EXPECT_EQ(flag == 1 ? 0x100 : 0, sw(4, 15, 23));
+		ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_overFlowFlag_get(8, &v));
+		EXPECT_EQ(flag == 1 ? 1u : 0u, v);
+	}
+}
+
+// The reset waits as long as the chip takes, far past the counter polls'
+// bound, and leaves counting on globally and for the port.
+TEST_F(MibTest, ResetWaitsWithoutBound)
+{
+	rtl8309n_sim_mib_set(&sim(), 0, 5, 42);
+	rtl8309n_sim_mib_set(&sim(), 1, 5, 43);
+	rtl8309n_sim_fault_busy(&sim(), SIM_SPACE_SWITCH, 4, 15, 17, 0x0001, 500);
+	ClearTrace();
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_reset(0));
+	EXPECT_EQ(1u + 501, Count('R', 17)) << "one bit update, then 501 polls";
+	EXPECT_EQ(0x8001, sw(4, 15, 16));
+	EXPECT_EQ(0u, sim().mib[0][5]);
+	EXPECT_EQ(43u, sim().mib[1][5]);
+}
+
+}  // namespace
