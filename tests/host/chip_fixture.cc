@@ -1,8 +1,5 @@
 #include "chip_fixture.h"
 
-#include <iomanip>
-#include <memory>
-
 namespace {
 
 rtl8309n_sim *g_sim;
@@ -28,8 +25,7 @@ int bridge_read(u32 phyad, u32 regad, u32 *value)
 
 std::ostream &operator<<(std::ostream &os, const Txn &t)
 {
-	return os << t.op << '(' << t.addr << ',' << t.reg << ",0x" << std::hex << t.value
-		  << std::dec << ')';
+	return os << t.op << '(' << t.addr << ',' << t.reg << ",0x" << std::hex << t.value << std::dec << ')';
 }
 
 void ChipTest::SetUp()

@@ -4,8 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <ostream>
+#include <string>
+#include <utility>
 #include <vector>
 
 extern "C" {
@@ -21,16 +25,29 @@ extern "C" {
 struct Txn {
 	char op;  // 'R' or 'W'
 	uint32_t addr, reg, value;
-	bool operator==(const Txn &o) const
-	{
-		return op == o.op && addr == o.addr && reg == o.reg && value == o.value;
-	}
+	bool operator==(const Txn &o) const { return op == o.op && addr == o.addr && reg == o.reg && value == o.value; }
 };
 std::ostream &operator<<(std::ostream &os, const Txn &t);
 using Trace = std::vector<Txn>;
+using Pair = std::pair<u32, u32>;
+using Vals = std::vector<u32>;
 
 inline Txn W(uint32_t a, uint32_t r, uint32_t v) { return {'W', a, r, v}; }
 inline Txn R(uint32_t a, uint32_t r, uint32_t v) { return {'R', a, r, v}; }
+
+// A call that must return @expected before any bus traffic.
+struct ArgCheck {
+	std::string name;
+	std::function<s32()> call;
+	s32 expected = RT_ERR_FAILED;
+};
+
+// L2 test addresses and the buckets the chip's hash (mode 0) gives them.
+inline u8 kMacA[6] = {0x00, 0x1A, 0x2B, 0x3C, 0x4D, 0x5E};	// fid 1: bucket 254
+inline u8 kMacB[6] = {0x88, 0x75, 0x34, 0xA2, 0x0F, 0x0B};	// fid 0: bucket 96
+inline u8 kMcast[6] = {0x01, 0x00, 0x5E, 0x00, 0x00, 0x01};
+constexpr u32 kBucketA = 254, kBucketB = 96;
+constexpr u32 Way(u32 bucket, u32 way) { return bucket + 512 * way; }
 
 class ChipTest : public ::testing::Test {
 protected:
@@ -42,22 +59,49 @@ protected:
 	const Trace &trace() const;
 	void ClearTrace();
 
-	uint16_t sw(uint32_t addr, uint32_t page, uint32_t reg)
+	// Register storage of the chip model, switch and PHY space.
+	u16 sw(u32 addr, u32 page, u32 reg) { return rtl8309n_sim_peek(sim_, SIM_SPACE_SWITCH, addr, page, reg); }
+	void set_sw(u32 addr, u32 page, u32 reg, u16 v) { rtl8309n_sim_poke(sim_, SIM_SPACE_SWITCH, addr, page, reg, v); }
+	u16 phy(u32 addr, u32 page, u32 reg) { return rtl8309n_sim_peek(sim_, SIM_SPACE_PHY, addr, page, reg); }
+	void set_phy(u32 addr, u32 page, u32 reg, u16 v) { rtl8309n_sim_poke(sim_, SIM_SPACE_PHY, addr, page, reg, v); }
+
+	void ExpectChecks(const std::vector<ArgCheck> &checks)
 	{
-		return rtl8309n_sim_peek(sim_, SIM_SPACE_SWITCH, addr, page, reg);
+		for (const auto &c : checks) {
+			SCOPED_TRACE(c.name);
+			ClearTrace();
+			EXPECT_EQ(c.expected, c.call());
+			EXPECT_TRUE(trace().empty());
+		}
 	}
-	void set_sw(uint32_t addr, uint32_t page, uint32_t reg, uint16_t v)
+	// Transactions @op on (@addr, @reg) since ClearTrace().
+	long Count(char op, u32 addr, u32 reg) const
 	{
-		rtl8309n_sim_poke(sim_, SIM_SPACE_SWITCH, addr, page, reg, v);
+		return std::count_if(trace().begin(), trace().end(), [&](const Txn &t) {
+			return t.op == op && t.addr == addr && t.reg == reg;
+		});
 	}
-	uint16_t phy(uint32_t addr, uint32_t page, uint32_t reg)
+	// (address, register) of each data write since ClearTrace(): the order
+	// in which a call touches the chip, page selection left out.
+	std::vector<std::pair<u32, u32>> DataWrites() const
 	{
-		return rtl8309n_sim_peek(sim_, SIM_SPACE_PHY, addr, page, reg);
+		std::vector<std::pair<u32, u32>> out;
+		for (const auto &t : trace())
+			if (t.op == 'W' && t.reg != RTL8309N_PAGE_REG)
+				out.emplace_back(t.addr, t.reg);
+		return out;
 	}
-	void set_phy(uint32_t addr, uint32_t page, uint32_t reg, uint16_t v)
+
+	// An L2 entry as the chip stores it: control word, then MAC bytes
+	// 4/5, 2/3, 0/1 with the lower-numbered byte low.
+	void PutL2(u32 idx, u16 ctrl, const u8 *mac)
 	{
-		rtl8309n_sim_poke(sim_, SIM_SPACE_PHY, addr, page, reg, v);
+		u16 *e = sim().l2[idx];
+		e[0] = ctrl;
+		for (int i = 0; i < 3; i++)
+			e[1 + i] = static_cast<u16>(mac[4 - 2 * i] | mac[5 - 2 * i] << 8);
 	}
+	u16 L2Ctrl(u32 idx) { return sim().l2[idx][0]; }
 
 private:
 	rtl8309n_sim *sim_ = nullptr;

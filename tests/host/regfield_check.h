@@ -5,17 +5,13 @@
 
 #include "chip_fixture.h"
 
-#include <functional>
-#include <string>
-#include <vector>
-
 struct FieldRow {
 	std::string name;
 	std::function<s32(u32)> set;
 	std::function<s32(u32 *)> get;
 	u32 addr, reg, page, lsb, width;
-	bool inverted;	// one-bit enable flag whose bit set means "off"
-	u32 max;	// highest accepted value; 0: the field's own maximum
+	bool inverted = false;	// one-bit enable flag whose bit set means "off"
+	u32 max = 0;		// highest accepted value; 0: the field's own maximum
 };
 
 class FieldTest : public ChipTest {
@@ -39,10 +35,8 @@ protected:
 		}
 		for (u16 bg : {0x0000, 0xFFFF}) {
 			for (auto [value, field] : cases) {
-				SCOPED_TRACE(testing::Message() << "bg " << bg << " value "
-							   << value);
-				u16 expect = static_cast<u16>((bg & ~(mask << r.lsb)) |
-							      (field << r.lsb));
+				SCOPED_TRACE(testing::Message() << "bg " << bg << " value " << value);
+				u16 expect = static_cast<u16>((bg & ~(mask << r.lsb)) | (field << r.lsb));
 				set_sw(r.addr, r.page, r.reg, bg);
 				ClearTrace();
 				ASSERT_EQ(RT_ERR_OK, r.set(value));
@@ -100,29 +94,6 @@ protected:
 		EXPECT_EQ(RT_ERR_OK, get(&out));
 		EXPECT_EQ(0u, out);
 		EXPECT_TRUE(trace().empty());
-	}
-
-	// Each call must fail with RT_ERR_FAILED before touching the bus.
-	using Refusals = std::vector<std::pair<std::string, std::function<s32()>>>;
-	void CheckRefused(const Refusals &calls)
-	{
-		for (const auto &[name, call] : calls) {
-			SCOPED_TRACE(name);
-			ClearTrace();
-			EXPECT_EQ(RT_ERR_FAILED, call());
-			EXPECT_TRUE(trace().empty());
-		}
-	}
-
-	// (address, register) of each data write since ClearTrace(), page
-	// selection left out: the order in which a setter touches the chip.
-	std::vector<std::pair<u32, u32>> DataWrites() const
-	{
-		std::vector<std::pair<u32, u32>> out;
-		for (const auto &t : trace())
-			if (t.op == 'W' && t.reg != RTL8309N_PAGE_REG)
-				out.emplace_back(t.addr, t.reg);
-		return out;
 	}
 };
 

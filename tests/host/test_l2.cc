@@ -1,64 +1,43 @@
-// L2 address table: hash, entry packing, commands, bucket scans, controls.
-#include "chip_fixture.h"
+// L2 address table: hash, entry packing, commands, bucket scans, controls;
+// the rtk_ L2 API over it.
+#include "regfield_check.h"
 
-#include <algorithm>
 #include <array>
 #include <cstring>
-#include <functional>
 #include <sstream>
-#include <string>
-#include <vector>
 
 namespace {
 
 using Mac = std::array<u8, 6>;
-constexpr Mac kMacA = {0x00, 0x1A, 0x2B, 0x3C, 0x4D, 0x5E};
-constexpr Mac kMcast = {0x01, 0x00, 0x5E, 0x01, 0x02, 0x03};
 constexpr u32 kNone = 10000;
 constexpr u16 kStatic = 0x100, kAuth = 0x800, kAge1 = 0x40;
 
-class L2Test : public ChipTest {
+class L2Test : public FieldTest {
 protected:
-	u32 Hash(const Mac &m, u32 fid)
+	u32 Hash(const u8 *m, u32 fid)
 	{
 		u32 h = 0;
-		EXPECT_EQ(RT_ERR_OK, rtl8309n_l2_MacToIdx_get(m.data(), fid, &h));
+		EXPECT_EQ(RT_ERR_OK, rtl8309n_l2_MacToIdx_get(m, fid, &h));
 		return h;
-	}
-	// Straight into the chip's table: control word, MAC 4/5, 2/3, 0/1.
-	void Put(u32 idx, u16 word, const Mac &m)
-	{
-		u16 *e = sim().l2[idx];
-		e[0] = word;
-		e[1] = m[4] | m[5] << 8;
-		e[2] = m[2] | m[3] << 8;
-		e[3] = m[0] | m[1] << 8;
 	}
 	static Mac Other(u8 n) { return {0x00, 0xAA, 0, 0, 0, n}; }
 	void BusyReads(u32 reads)
 	{
 		rtl8309n_sim_fault_busy(&sim(), SIM_SPACE_SWITCH, 6, 15, 18, reads ? 0x0800 : 0, reads);
 	}
-	long CmdReads()
-	{
-		return std::count_if(trace().begin(), trace().end(),
-				     [](const Txn &t) { return t.op == 'R' && t.addr == 6 && t.reg == 18; });
-	}
+	std::vector<u16> Entry(u32 idx) { return {sim().l2[idx], sim().l2[idx] + 4}; }
 };
 
 TEST_F(L2Test, HashExamples)
 {
-	const struct { Mac mac; u32 fid, mode, hash; } rows[] = {
-		{kMacA, 1, 0, 254}, {kMacA, 1, 1, 93}, {{0x88, 0x75, 0x34, 0xA2, 0x0F, 0x0B}, 0, 0, 96},
-		{{}, 0, 0, 0}, {{}, 0, 1, 0}, {{}, 1, 0, 1u << 5}, {{}, 1, 1, 1u << 0},
-		{{}, 2, 0, 1u << 4}, {{}, 2, 1, 1u << 8},
-	};
+	const struct { const u8 *mac; u32 fid, mode, hash; } rows[] = {
+		{kMacA, 1, 0, 254}, {kMacA, 1, 1, 93}, {kMacB, 0, 0, 96}};
 	for (const auto &r : rows) {
 		ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_hashmode_set(r.mode));
 		EXPECT_EQ(r.hash, Hash(r.mac, r.fid)) << "fid " << r.fid << " mode " << r.mode;
 	}
 	u32 h = 7;
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_MacToIdx_get(kMacA.data(), 4, &h));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_MacToIdx_get(kMacA, 4, &h));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_MacToIdx_get(nullptr, 0, &h));
 	EXPECT_EQ(7u, h);
 }
@@ -90,7 +69,7 @@ TEST_F(L2Test, HashBitsDependOnExactlyTheListedInputs)
 				for (std::string t; terms >> t;)
 					expected ^= (t == name) << bit;
 			}
-			EXPECT_EQ(expected, Hash(m, fid)) << "mode " << mode << " input " << name;
+			EXPECT_EQ(expected, Hash(m.data(), fid)) << "mode " << mode << " input " << name;
 		}
 	}
 }
@@ -99,9 +78,7 @@ TEST_F(L2Test, EntryPackingGrayAgeAndPoll)
 {
 	rtl8309n_l2_ucastEntry u{1, 0, 1, 0, 2, 8, 3, {0x00, 0x11, 0x22, 0x33, 0x44, 0x55}}, o{};
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastEntry_set(0xFFF, &u));  // index cut to 11 bits
-	EXPECT_EQ((std::array<u16, 4>{0x0400 | 0x0100 | 0x00C0 | 8 << 2 | 3, 0x5544, 0x3322, 0x1100}),
-		  (std::array<u16, 4>{sim().l2[0x7FF][0], sim().l2[0x7FF][1], sim().l2[0x7FF][2],
-				      sim().l2[0x7FF][3]}));
+	EXPECT_EQ((std::vector<u16>{0x0400 | 0x0100 | 0x00C0 | 8 << 2 | 3, 0x5544, 0x3322, 0x1100}), Entry(0x7FF));
 	EXPECT_EQ(0, sw(6, 15, 16) & 1) << "access bit dropped after the command";
 	const u16 stored_age[] = {0, 1, 3, 2};
 	for (u32 age = 0; age < 4; age++) {
@@ -110,15 +87,15 @@ TEST_F(L2Test, EntryPackingGrayAgeAndPoll)
 		EXPECT_EQ(stored_age[age], (sim().l2[5][0] >> 6) & 3);
 		ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastEntry_get(5, &o));
 		EXPECT_EQ(std::make_tuple(1u, 0u, 1u, 0u, age, 8u, 3u, 0),
-			  std::make_tuple(o.isStatic, o.auth, o.block10, o.block9, o.age, o.port,
-					  o.fid, memcmp(o.mac, u.mac, 6)));
+			  std::make_tuple(o.isStatic, o.auth, o.block10, o.block9, o.age, o.port, o.fid,
+					  memcmp(o.mac, u.mac, 6)));
 	}
 	rtl8309n_l2_mcastEntry m{1, 2, 0x155, {0x01, 0, 0x5E, 0, 0, 1}}, mo{};
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastEntry_set(9, &m));
 	EXPECT_EQ(0x0800 | 0x155 << 2 | 2, sim().l2[9][0]);
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastEntry_get(9, &mo));
-	EXPECT_EQ(std::make_tuple(1u, 2u, 0x155u, 0), std::make_tuple(mo.valid, mo.fid,
-		  mo.portMask, memcmp(mo.mac, m.mac, 6)));
+	EXPECT_EQ(std::make_tuple(1u, 2u, 0x155u, 0),
+		  std::make_tuple(mo.valid, mo.fid, mo.portMask, memcmp(mo.mac, m.mac, 6)));
 	u.fid = 4;  // carried unmasked: spills into the port field
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastEntry_set(6, &u));
 	EXPECT_EQ(9, (sim().l2[6][0] >> 2) & 0xF);
@@ -128,9 +105,8 @@ TEST_F(L2Test, EntryPackingGrayAgeAndPoll)
 	for (u32 busy_reads : {99u, 100u}) {
 		BusyReads(busy_reads);
 		ClearTrace();
-		EXPECT_EQ(busy_reads < 100 ? RT_ERR_OK : RT_ERR_FAILED,
-			  rtl8309n_l2_ucastEntry_set(1, &u));
-		EXPECT_EQ(2 + 100, CmdReads());
+		EXPECT_EQ(busy_reads < 100 ? RT_ERR_OK : RT_ERR_FAILED, rtl8309n_l2_ucastEntry_set(1, &u));
+		EXPECT_EQ(2 + 100, Count('R', 6, 18));
 		EXPECT_EQ(busy_reads < 100 ? 0 : 1, sw(6, 15, 16) & 1);
 	}
 	BusyReads(0);
@@ -145,24 +121,17 @@ TEST_F(L2Test, UnicastAddPicksMatchingThenReplaceableWay)
 	const u32 h = Hash(kMacA, 1);
 	rtl8309n_l2_ucastEntry e{1, 0, 0, 0, 3, 4, 1, {0x00, 0x1A, 0x2B, 0x3C, 0x4D, 0x5E}};
 	u32 idx = 0;
-	const struct {
-		const char *name;
-		std::array<u16, 4> words;  // ways 0..3
-		int match_way, mc_way;     // way holding kMacA / a multicast MAC, or -1
-		s32 ret;
-		u32 index;
-	} rows[] = {
+	// Control words of ways 0..3, the ways holding kMacA / a multicast MAC (or -1), the outcome.
+	const struct { const char *name; std::array<u16, 4> words; int match_way, mc_way; s32 ret; u32 index; } rows[] = {
 		{"dynamic only: way 3", {kAge1, kAge1, kAge1, kAge1}, -1, -1, RT_ERR_OK, h + 1536},
 		{"static/auth/multicast kept", {kAge1, kAge1, kAuth, kStatic}, -1, 1, RT_ERR_OK, h},
-		{"all static", {kStatic, kStatic, kStatic, kStatic}, -1, -1, RTL8309N_L2_BUCKET_FULL,
-		 kNone},
+		{"all static", {kStatic, kStatic, kStatic, kStatic}, -1, -1, RTL8309N_L2_BUCKET_FULL, kNone},
 		{"match rewritten in place", {0, kStatic | kAuth, 0, 0}, 1, -1, RT_ERR_OK, h + 512},
 	};
 	for (const auto &r : rows) {
-		for (int w = 0; w < 4; w++)
-			Put(h + 512 * w, r.words[w],
-			    w == r.match_way ? kMacA : w == r.mc_way ? kMcast : Other(w));
-		EXPECT_EQ(r.ret, rtl8309n_l2_ucastAddr_add(kMacA.data(), 1, &e, &idx)) << r.name;
+		for (u8 w = 0; w < 4; w++)
+			PutL2(h + 512 * w, r.words[w], w == r.match_way ? kMacA : w == r.mc_way ? kMcast : Other(w).data());
+		EXPECT_EQ(r.ret, rtl8309n_l2_ucastAddr_add(kMacA, 1, &e, &idx)) << r.name;
 		EXPECT_EQ(r.index, idx) << r.name;
 		if (r.index != kNone) {
 			EXPECT_EQ(0x0100 | 0x80 | 4 << 2 | 1, sim().l2[r.index][0]) << r.name;
@@ -175,22 +144,20 @@ TEST_F(L2Test, UnicastGetAndDelete)
 	const u32 h = Hash(kMacA, 0);
 	rtl8309n_l2_ucastEntry out{};
 	u32 idx = 1;
-	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_ucastAddr_get(kMacA.data(), 0, &out, &idx));
+	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_ucastAddr_get(kMacA, 0, &out, &idx));
 	EXPECT_EQ(kNone, idx);
-
-	Put(h + 1024, 0x0004, kMacA);  // aged out, dynamic: an empty slot
-	Put(h + 512, kStatic | kAge1, kMacA);
-	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_ucastAddr_get(kMacA.data(), 0, &out, &idx));
+	PutL2(h + 1024, 0x0004, kMacA);  // aged out, dynamic: an empty slot
+	PutL2(h + 512, kStatic | kAge1, kMacA);
+	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_ucastAddr_get(kMacA, 0, &out, &idx));
 	EXPECT_EQ(0u, idx);
-	Put(h + 1024, kAuth | 0x0004, kMacA);
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastAddr_get(kMacA.data(), 0, &out, &idx));
+	PutL2(h + 1024, kAuth | 0x0004, kMacA);
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastAddr_get(kMacA, 0, &out, &idx));
 	EXPECT_EQ(std::make_tuple(h + 1024, 1u, 1u), std::make_tuple(idx, out.auth, out.port));
-
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastAddr_del(kMacA.data(), 0, &idx));
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastAddr_del(kMacA, 0, &idx));
 	EXPECT_EQ(h + 512, idx) << "the last duplicate cleared";
 	for (u32 w : {1u, 2u})
 		EXPECT_EQ(0, sim().l2[h + 512 * w][0] | sim().l2[h + 512 * w][3]);
-	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_ucastAddr_del(kMacA.data(), 0, &idx));
+	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_ucastAddr_del(kMacA, 0, &idx));
 	EXPECT_EQ(kNone, idx);
 }
 
@@ -198,26 +165,23 @@ TEST_F(L2Test, MulticastAddGetDelete)
 {
 	const u32 h = Hash(kMcast, 2);
 	u32 idx = 0, mask = 0;
-	for (u32 w = 0; w < 4; w++)
-		Put(h + 512 * w, kStatic, Other(w));
-	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_mcastAddr_add(kMcast.data(), 2, 0x3, &idx))
-		<< "a full bucket reports not-found";
+	for (u8 w = 0; w < 4; w++)
+		PutL2(h + 512 * w, kStatic, Other(w).data());
+	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_mcastAddr_add(kMcast, 2, 0x3, &idx)) << "full bucket";
 	EXPECT_EQ(kNone, idx);
-
-	Put(h + 512, kAge1, Other(1));
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_add(kMcast.data(), 2, 0x3, &idx));
+	PutL2(h + 512, kAge1, Other(1).data());
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_add(kMcast, 2, 0x3, &idx));
 	EXPECT_EQ(h + 512, idx);
 	EXPECT_EQ(0x0800 | 0x3 << 2 | 2, sim().l2[idx][0]);
 	sim().l2[idx][0] = 0x0001;  // stored FID 1, not valid: FID kept, made valid
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_add(kMcast.data(), 2, 0x1FF, &idx));
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_add(kMcast, 2, 0x1FF, &idx));
 	EXPECT_EQ(0x0800 | 0x1FF << 2 | 1, sim().l2[h + 512][0]);
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_get(kMcast.data(), 2, &mask, &idx));
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_get(kMcast, 2, &mask, &idx));
 	EXPECT_EQ(0x1FFu, mask);
-
-	Put(h + 1536, 0, kMcast);
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_del(kMcast.data(), 2, &idx));
+	PutL2(h + 1536, 0, kMcast);
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_del(kMcast, 2, &idx));
 	EXPECT_EQ(h + 512, idx);
-	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_mcastAddr_get(kMcast.data(), 2, &mask, &idx));
+	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_mcastAddr_get(kMcast, 2, &mask, &idx));
 	EXPECT_EQ(kNone, idx);
 }
 
@@ -225,16 +189,16 @@ TEST_F(L2Test, BadArgumentsAndFailedReads)
 {
 	rtl8309n_l2_ucastEntry e{};
 	u32 idx = 0, v = 0;
-	const std::function<s32(const Mac &, u32)> ops[] = {
-		[&](const Mac &m, u32 f) { return rtl8309n_l2_ucastAddr_add(m.data(), f, &e, &idx); },
-		[&](const Mac &m, u32 f) { return rtl8309n_l2_ucastAddr_get(m.data(), f, &e, &idx); },
-		[&](const Mac &m, u32 f) { return rtl8309n_l2_ucastAddr_del(m.data(), f, &idx); },
-		[&](const Mac &m, u32 f) { return rtl8309n_l2_mcastAddr_add(m.data(), f, 1, &idx); },
-		[&](const Mac &m, u32 f) { return rtl8309n_l2_mcastAddr_get(m.data(), f, &v, &idx); },
-		[&](const Mac &m, u32 f) { return rtl8309n_l2_mcastAddr_del(m.data(), f, &idx); },
+	const std::function<s32(const u8 *, u32)> ops[] = {
+		[&](const u8 *m, u32 f) { return rtl8309n_l2_ucastAddr_add(m, f, &e, &idx); },
+		[&](const u8 *m, u32 f) { return rtl8309n_l2_ucastAddr_get(m, f, &e, &idx); },
+		[&](const u8 *m, u32 f) { return rtl8309n_l2_ucastAddr_del(m, f, &idx); },
+		[&](const u8 *m, u32 f) { return rtl8309n_l2_mcastAddr_add(m, f, 1, &idx); },
+		[&](const u8 *m, u32 f) { return rtl8309n_l2_mcastAddr_get(m, f, &v, &idx); },
+		[&](const u8 *m, u32 f) { return rtl8309n_l2_mcastAddr_del(m, f, &idx); },
 	};
 	for (size_t i = 0; i < 6; i++) {
-		const Mac &good = i < 3 ? kMacA : kMcast, &wrong = i < 3 ? kMcast : kMacA;
+		const u8 *good = i < 3 ? kMacA : kMcast, *wrong = i < 3 ? kMcast : kMacA;
 		ClearTrace();
 		EXPECT_EQ(RT_ERR_FAILED, ops[i](good, 4)) << i;
 		EXPECT_EQ(RT_ERR_FAILED, ops[i](wrong, 0)) << i;
@@ -243,73 +207,43 @@ TEST_F(L2Test, BadArgumentsAndFailedReads)
 		EXPECT_EQ(RT_ERR_FAILED, ops[i](good, 0)) << "failed way read " << i;
 		BusyReads(0);
 	}
-	rtl8309n_l2_ucastEntry bad_u[] = {{0, 0, 0, 0, 4, 0, 0, {}}, {0, 0, 0, 0, 0, 9, 0, {}},
-					  {0, 0, 0, 0, 0, 0, 0, {1}}};
+	rtl8309n_l2_ucastEntry bad_u[] = {{0, 0, 0, 0, 4, 0, 0, {}}, {0, 0, 0, 0, 0, 9, 0, {}}, {0, 0, 0, 0, 0, 0, 0, {1}}};
 	rtl8309n_l2_mcastEntry bad_m[] = {{1, 0, 1, {0}}, {1, 0, 512, {1}}};
 	ClearTrace();
 	for (const auto &b : bad_u)
 		EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_ucastEntry_set(0, &b));
 	for (const auto &b : bad_m)
 		EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_mcastEntry_set(0, &b));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_mcastAddr_add(kMcast.data(), 0, 512, &idx));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_portMacLimit_set(8, 32));
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_mcastAddr_add(kMcast, 0, 512, &idx));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_systemMacLimit_set(256, 0));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_systemMacLimit_set(0, 512));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_l2_portlearningCnt_get(9, &v));
+	for (auto set : {rtl8309n_l2_macLimitAction_set, rtl8309n_l2_sablockAction_set, rtl8309n_l2_dablockAction_set})
+		for (u32 bad : {0u, 1u, 4u})
+			EXPECT_EQ(RT_ERR_FAILED, set(bad)) << "action " << bad;
 	EXPECT_TRUE(trace().empty());
 }
 
-// One-bit controls: setter value -> chip bit -> getter value, for inputs
-// {1, 0, 2} (enables) or {2, 3} (trap/drop actions, which refuse 0, 1, 4).
-TEST_F(L2Test, ControlPolarities)
+TEST_F(L2Test, ControlsLimitsAndCounters)
 {
-	using Set = s32 (*)(u32);
-	using Get = s32 (*)(u32 *);
-	const struct { Set set; Get get; u32 addr, page, reg, bit; bool action, bit_for_1; } rows[] = {
-		{rtl8309n_l2_lruEnable_set, rtl8309n_l2_lruEnable_get, 6, 15, 16, 4, false, true},
-		{rtl8309n_l2_camEnable_set, rtl8309n_l2_camEnable_get, 6, 15, 16, 3, false, false},
-		{rtl8309n_l2_flushEnable_set, rtl8309n_l2_flushEnable_get, 6, 15, 16, 6, false, true},
-		{rtl8309n_l2_agingEnable_set, rtl8309n_l2_agingEnable_get, 6, 15, 16, 11, false, true},
-		{rtl8309n_l2_fastAgingEnable_set, rtl8309n_l2_fastAgingEnable_get, 6, 15, 16, 5, false,
-		 true},
-		{rtl8309n_l2_dpMskEnable_set, rtl8309n_l2_dpMskEnable_get, 6, 15, 16, 12, false, true},
-		{rtl8309n_l2_unkownDaDropEnable_set, rtl8309n_l2_unkownDaDropEnable_get, 6, 15, 16, 13,
-		 false, false},
-		{rtl8309n_l2_hashmode_set, rtl8309n_l2_hashmode_get, 6, 15, 16, 1, false, true},
-		{rtl8309n_l2_systemMacLimitEnable_set, rtl8309n_l2_systemMacLimitEnable_get, 6, 15, 23,
-		 8, false, true},
-		// for actions, bit_for_1: the bit stands for trap (2) rather than drop (3)
-		{rtl8309n_l2_macLimitAction_set, rtl8309n_l2_macLimitAction_get, 6, 15, 17, 9, true,
-		 true},
-		{rtl8309n_l2_sablockAction_set, rtl8309n_l2_sablockAction_get, 6, 15, 16, 8, true, false},
-		{rtl8309n_l2_dablockAction_set, rtl8309n_l2_dablockAction_get, 6, 15, 16, 7, true, false},
-	};
-	for (const auto &r : rows) {
-		rtl8309n_sim_init(&sim());
-		const std::vector<u32> ins = r.action ? std::vector<u32>{2, 3} : std::vector<u32>{1, 0, 2};
-		for (u32 in : ins) {
-			const bool on = r.action ? in == 2 : in == 1;
-			u32 v = 99;
-			ASSERT_EQ(RT_ERR_OK, r.set(in));
-			EXPECT_EQ((on == r.bit_for_1 ? 1u : 0u) << r.bit, sw(r.addr, r.page, r.reg))
-				<< "reg " << r.reg << " bit " << r.bit << " in " << in;
-			ASSERT_EQ(RT_ERR_OK, r.get(&v));
-			EXPECT_EQ(r.action ? in : on, v) << "bit " << r.bit;
-		}
-		for (u32 bad : {0u, 1u, 4u})
-			EXPECT_EQ(r.action ? RT_ERR_FAILED : RT_ERR_OK, r.set(bad)) << "bit " << r.bit;
-		EXPECT_EQ(RT_ERR_FAILED, r.get(nullptr));
-	}
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_portMacLimitEnable_set(8, 1));
-	EXPECT_EQ(0x0002, sw(8, 5, 16));
-}
-
-TEST_F(L2Test, LimitsAndCounters)
-{
+	CheckAll({
+		{"hash mode", ACCESSORS(l2_hashmode), 6, 16, 15, 1, 1},
+		{"cam (disable bit)", ACCESSORS(l2_camEnable), 6, 16, 15, 3, 1, true},
+		{"lru", ACCESSORS(l2_lruEnable), 6, 16, 15, 4, 1},
+		{"fast aging", ACCESSORS(l2_fastAgingEnable), 6, 16, 15, 5, 1},
+		{"flush", ACCESSORS(l2_flushEnable), 6, 16, 15, 6, 1},
+		{"aging", ACCESSORS(l2_agingEnable), 6, 16, 15, 11, 1},
+		{"dp mask", ACCESSORS(l2_dpMskEnable), 6, 16, 15, 12, 1},
+		{"unknown DA drop (keep bit)", ACCESSORS(l2_unkownDaDropEnable), 6, 16, 15, 13, 1, true},
+		{"system limit enable", ACCESSORS(l2_systemMacLimitEnable), 6, 23, 15, 8, 1},
+		{"port limit enable", ACCESSORS(l2_portMacLimitEnable, 8u), 8, 16, 5, 1, 1},
+		{"port limit", ACCESSORS(l2_portMacLimit, 8u), 8, 16, 5, 11, 5},
+	});
+	CheckCodeBit(ACCESSORS(l2_macLimitAction), 6, 17, 15, 9, 2, 3);  // 2 trap, 3 drop
+	CheckCodeBit(ACCESSORS(l2_sablockAction), 6, 16, 15, 8, 3, 2);
+	CheckCodeBit(ACCESSORS(l2_dablockAction), 6, 16, 15, 7, 3, 2);
 	u32 a = 0, b = 0;
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_portMacLimit_set(8, 31));
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_portMacLimit_get(8, &a));
-	EXPECT_EQ(std::make_tuple(0xF800, 31u), std::make_tuple(sw(8, 5, 16), a));
+	rtl8309n_sim_init(&sim());
 	set_sw(6, 15, 17, 0x0200);
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_systemMacLimit_set(255, 511));
 	EXPECT_EQ(std::make_tuple(0x00FF, 0x03FF), std::make_tuple(sw(6, 15, 23), sw(6, 15, 17)));
@@ -320,6 +254,119 @@ TEST_F(L2Test, LimitsAndCounters)
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_systemLearningCnt_get(&a));
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_portlearningCnt_get(3, &b));
 	EXPECT_EQ(std::make_tuple(0x7FFu, 0x123u), std::make_tuple(a, b));
+}
+
+class ApiL2Test : public L2Test {};
+
+rtk_l2_ucastAddr_t Addr(u8 port, u8 fid, u32 age, u8 is_static, const u8 *mac)
+{
+	rtk_l2_ucastAddr_t a{0, 0, 0, is_static, port, fid, age, {}};
+	std::copy(mac, mac + 6, a.mac);
+	return a;
+}
+
+TEST_F(ApiL2Test, ChecksInOrderBeforeAnyChipAccess)
+{
+	static u32 out;
+	static rtk_l2_ucastAddr_t a;
+	auto add = [](void (*tweak)(rtk_l2_ucastAddr_t &), u32 fid = 1) {
+		return [tweak, fid] {
+			rtk_l2_ucastAddr_t r = Addr(1, 1, 300, 1, kMacA);
+			tweak(r);
+			return rtk_l2_addr_add(kMacA, fid, &r);
+		};
+	};
+	ExpectChecks({
+		{"add null mac", [] { return rtk_l2_addr_add(nullptr, 0, &a); }, RT_ERR_NULL_POINTER},
+		{"add null record", [] { return rtk_l2_addr_add(kMacA, 0, nullptr); }, RT_ERR_NULL_POINTER},
+		{"add multicast key", [] { return rtk_l2_addr_add(kMcast, 9, &a); }, RT_ERR_MAC},
+		{"add fid 4 before record", add([](auto &r) { r.port = 9; }, 4), RT_ERR_L2_FID},
+		{"add auth 2", add([](auto &r) { r.auth = 2; }), RT_ERR_INPUT},
+		{"add block10 2", add([](auto &r) { r.block10 = 2; }), RT_ERR_INPUT},
+		{"add block9 2", add([](auto &r) { r.block9 = 2; }), RT_ERR_INPUT},
+		{"add isStatic 2 before port", add([](auto &r) { r.isStatic = 2; r.port = 9; }), RT_ERR_INPUT},
+		{"add age 301", add([](auto &r) { r.age = 301; }), RT_ERR_INPUT},
+		{"add port 9 before record fid", add([](auto &r) { r.port = 9; r.fid = 4; }), RT_ERR_PORT_ID},
+		{"add record fid 4", add([](auto &r) { r.fid = 4; }), RT_ERR_INPUT},
+		{"add record multicast", add([](auto &r) { r.mac[0] = 1; }), RT_ERR_MAC},
+		{"get kind before null record", [] { return rtk_l2_addr_get(kMcast, 9, nullptr); }, RT_ERR_MAC},
+		{"get fid 4 before null", [] { return rtk_l2_addr_get(kMacA, 4, nullptr); }, RT_ERR_L2_FID},
+		{"get null record", [] { return rtk_l2_addr_get(kMacA, 3, nullptr); }, RT_ERR_NULL_POINTER},
+		{"get null mac", [] { return rtk_l2_addr_get(nullptr, 3, &a); }, RT_ERR_NULL_POINTER},
+		{"del null mac is a MAC error", [] { return rtk_l2_addr_del(nullptr, 0); }, RT_ERR_MAC},
+		{"del multicast", [] { return rtk_l2_addr_del(kMcast, 0); }, RT_ERR_MAC},
+		{"del fid 5", [] { return rtk_l2_addr_del(kMacA, 5); }, RT_ERR_L2_FID},
+		{"del admits fid 4, the chip refuses", [] { return rtk_l2_addr_del(kMacA, 4); }},
+		{"mc add null", [] { return rtk_l2_mcastAddr_add(nullptr, 0, 1); }, RT_ERR_NULL_POINTER},
+		{"mc add unicast", [] { return rtk_l2_mcastAddr_add(kMacA, 9, 1); }, RT_ERR_MAC},
+		{"mc add fid 4", [] { return rtk_l2_mcastAddr_add(kMcast, 4, 0x200); }, RT_ERR_L2_FID},
+		{"mc add mask 0x200", [] { return rtk_l2_mcastAddr_add(kMcast, 3, 0x200); }, RT_ERR_PORT_MASK},
+		{"mc get null out before kind", [] { return rtk_l2_mcastAddr_get(kMacA, 0, nullptr); }, RT_ERR_NULL_POINTER},
+		{"mc get unicast", [] { return rtk_l2_mcastAddr_get(kMacA, 0, &out); }, RT_ERR_MAC},
+		{"mc get fid 4", [] { return rtk_l2_mcastAddr_get(kMcast, 4, &out); }, RT_ERR_L2_FID},
+		{"mc del null mac is a plain failure", [] { return rtk_l2_mcastAddr_del(nullptr, 0); }},
+		{"mc del unicast", [] { return rtk_l2_mcastAddr_del(kMacA, 0); }, RT_ERR_MAC},
+		{"mc del fid 4", [] { return rtk_l2_mcastAddr_del(kMcast, 4); }, RT_ERR_L2_FID},
+		{"sys enable get null", [] { return rtk_l2_limitLearningSysCntEnable_get(nullptr); }},
+		{"sys limit a 256", [] { return rtk_l2_limitLearningSysCnt_set(256, 0); }, RT_ERR_INPUT},
+		{"sys limit b 512", [] { return rtk_l2_limitLearningSysCnt_set(0, 512); }, RT_ERR_INPUT},
+		{"sys limit get null", [] { return rtk_l2_limitLearningSysCnt_get(&out, nullptr); }, RT_ERR_NULL_POINTER},
+		{"port enable port 9", [] { return rtk_l2_limitLearningCntEnable_set(9, 1); }, RT_ERR_PORT_ID},
+		{"port enable get null", [] { return rtk_l2_limitLearningCntEnable_get(8, nullptr); }, RT_ERR_NULL_POINTER},
+		{"port limit port before limit", [] { return rtk_l2_limitLearningCnt_set(9, 32); }, RT_ERR_PORT_ID},
+		{"port limit 32", [] { return rtk_l2_limitLearningCnt_set(0, 32); }, RT_ERR_LIMITED_L2ENTRY_NUM},
+		{"port limit get null", [] { return rtk_l2_limitLearningCnt_get(0, nullptr); }, RT_ERR_NULL_POINTER},
+		{"limit action 1", [] { return rtk_l2_limitLearningCntAction_set(0, 1); }, RT_ERR_NOT_ALLOWED},
+		{"limit action 3", [] { return rtk_l2_limitLearningCntAction_set(99, 3); }, RT_ERR_NOT_ALLOWED},
+		{"limit action get null", [] { return rtk_l2_limitLearningCntAction_get(99, nullptr); }, RT_ERR_NULL_POINTER},
+		{"sys count null", [] { return rtk_l2_learningSysCnt_get(nullptr); }, RT_ERR_NULL_POINTER},
+		{"port count port 9", [] { return rtk_l2_learningCnt_get(9, nullptr); }, RT_ERR_PORT_ID},
+	});
+}
+
+TEST_F(ApiL2Test, UnicastAddAgeGetDelete)
+{
+	rtk_l2_ucastAddr_t in = Addr(5, 1, 200, 1, kMacA), out{};
+	in.block9 = 1;
+	ASSERT_EQ(RT_ERR_OK, rtk_l2_addr_add(kMacA, 1, &in));
+	// fid 1, port 5, age 2 (stored 0b11), static, block9
+	EXPECT_EQ(0x3D5, L2Ctrl(Way(kBucketA, 3)));
+	ASSERT_EQ(RT_ERR_OK, rtk_l2_addr_get(kMacA, 1, &out));
+	EXPECT_EQ(0, memcmp(&in, &out, sizeof(in)));
+	in.age = 150;	// no chip age: stored as aged out
+	ASSERT_EQ(RT_ERR_OK, rtk_l2_addr_add(kMacA, 1, &in));
+	EXPECT_EQ(0x315, L2Ctrl(Way(kBucketA, 3)));
+	ASSERT_EQ(RT_ERR_OK, rtk_l2_addr_get(kMacA, 1, &out));
+	EXPECT_EQ(0u, out.age);
+	ASSERT_EQ(RT_ERR_OK, rtk_l2_addr_del(kMacA, 1));
+	EXPECT_EQ(0, L2Ctrl(Way(kBucketA, 3)));
+	EXPECT_EQ(RT_ERR_L2_ENTRY_NOTFOUND, rtk_l2_addr_del(kMacA, 1));
+	EXPECT_EQ(RT_ERR_L2_ENTRY_NOTFOUND, rtk_l2_addr_get(kMacA, 1, &out));
+}
+
+TEST_F(ApiL2Test, MulticastRoundTripFullBucketsAndTheGlobalLimitAction)
+{
+	u32 mask = 0;
+	ASSERT_EQ(RT_ERR_OK, rtk_l2_mcastAddr_add(kMcast, 0, 0x109));
+	ASSERT_EQ(RT_ERR_OK, rtk_l2_mcastAddr_get(kMcast, 0, &mask));
+	EXPECT_EQ(0x109u, mask);
+	ASSERT_EQ(RT_ERR_OK, rtk_l2_mcastAddr_del(kMcast, 0));
+	EXPECT_EQ(RT_ERR_L2_ENTRY_NOTFOUND, rtk_l2_mcastAddr_get(kMcast, 0, &mask));
+	EXPECT_EQ(RT_ERR_L2_ENTRY_NOTFOUND, rtk_l2_mcastAddr_del(kMcast, 0));
+	for (u8 w = 0; w < 4; w++) {
+		PutL2(Way(kBucketB, w), kStatic, Other(w).data());
+		PutL2(Way(Hash(kMcast, 0), w), kStatic, Other(w).data());
+	}
+	rtk_l2_ucastAddr_t in = Addr(2, 0, 300, 0, kMacB);
+	EXPECT_EQ(RT_ERR_L2_NO_EMPTY_ENTRY, rtk_l2_addr_add(kMacB, 0, &in));
+	EXPECT_EQ(RT_ERR_OK, rtk_l2_mcastAddr_add(kMcast, 0, 0x003));
+	EXPECT_EQ(RT_ERR_L2_ENTRY_NOTFOUND, rtk_l2_mcastAddr_get(kMcast, 0, &mask)) << "nothing written";
+	for (auto [action, reg17] : {Pair(RTK_L2_LIMIT_ACT_TRAP_CPU, 0x0200), Pair(RTK_L2_LIMIT_ACT_DROP, 0)}) {
+		u32 back = 9;
+		ASSERT_EQ(RT_ERR_OK, rtk_l2_limitLearningCntAction_set(7, action));
+		ASSERT_EQ(RT_ERR_OK, rtk_l2_limitLearningCntAction_get(3, &back));
+		EXPECT_EQ(Pair(reg17, action), Pair(sw(6, 15, 17), back));
+	}
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
-// MIB counters: latch sequences, poll bounds, flags and the port reset.
+// MIB counters: latch sequences, poll bounds, flags and the port reset; the
+// rtk_ counter API over them.
 #include "chip_fixture.h"
 
-#include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace {
 
@@ -13,16 +14,9 @@ protected:
 	Trace Selects()
 	{
 		Trace out;
-		for (const Txn &t : trace())
-			if (t.op == 'W' && t.addr == 4 && t.reg == 18)
-				out.push_back(t);
+		std::copy_if(trace().begin(), trace().end(), std::back_inserter(out),
+			     [](const Txn &t) { return t.op == 'W' && t.addr == 4 && t.reg == 18; });
 		return out;
-	}
-	size_t Count(char op, u32 reg)
-	{
-		return std::count_if(trace().begin(), trace().end(), [&](const Txn &t) {
-			return t.op == op && t.addr == 4 && t.reg == reg;
-		});
 	}
 };
 
@@ -34,7 +28,6 @@ TEST_F(MibTest, CounterReadsSelectThenLatch)
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_byteCnt_get(8, 2, w.data()));
 	EXPECT_EQ((Words{0x7788, 0x5566, 0x3344, 0x1122}), w);
 	EXPECT_EQ((Trace{W(4, 18, 0x8082), W(4, 18, 0x8083)}), Selects());
-
 	rtl8309n_sim_mib_set(&sim(), 3, 15, 0xABCD1234);
 	ClearTrace();
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_pktCnt_get(3, 15, &pkts));
@@ -54,16 +47,16 @@ TEST_F(MibTest, LatchPollBound)
 		rtl8309n_sim_fault_busy(&sim(), SIM_SPACE_SWITCH, 4, 15, 18, 0x8000, busy_reads);
 		ClearTrace();
 		EXPECT_EQ(ok ? RT_ERR_OK : RT_ERR_FAILED, rtl8309n_mib_byteCnt_get(0, 0, w.data()));
-		EXPECT_EQ(ok ? 200u : 100u, Count('R', 18));
+		EXPECT_EQ(ok ? 200 : 100, Count('R', 4, 18));
 		EXPECT_EQ((ok ? Words{4, 3, 2, 1} : Words{7, 7, 7, 7}), w);
 		ClearTrace();
 		EXPECT_EQ(ok ? RT_ERR_OK : RT_ERR_FAILED, rtl8309n_mib_pktCnt_get(0, 4, &pkts));
-		EXPECT_EQ(100u, Count('R', 18));
+		EXPECT_EQ(100, Count('R', 4, 18));
 		EXPECT_EQ(ok ? 0u : 7u, pkts);
 	}
 }
 
-TEST_F(MibTest, BadArgumentsFailWithoutBusTraffic)
+TEST_F(MibTest, BadArgumentsEnableStartStopAndOverflowBits)
 {
 	u32 v[4] = {};
 	for (u32 c : {1u, 3u, 4u})
@@ -82,14 +75,10 @@ TEST_F(MibTest, BadArgumentsFailWithoutBusTraffic)
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_start(16));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_reset(9));
 	EXPECT_TRUE(trace().empty());
-}
-
-TEST_F(MibTest, EnableStartStopAndOverflowBits)
-{
-	u32 v = 9;
+	v[0] = 9;
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_enable_set(1));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_enable_get(&v)) << "always reports failure";
-	EXPECT_EQ(1u, v) << "... but delivers the flag";
+	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_enable_get(v)) << "always reports failure";
+	EXPECT_EQ(1u, v[0]) << "... but delivers the flag";
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_start(8));
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_start(9)) << "port not range-checked";
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_stop(9));
@@ -97,8 +86,8 @@ TEST_F(MibTest, EnableStartStopAndOverflowBits)
 	for (u32 flag : {1u, 0u, 2u}) {
 		ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_overFlowFlag_set(8, flag));
 		EXPECT_EQ(flag == 1 ? 0x100 : 0, sw(4, 15, 23));
-		ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_overFlowFlag_get(8, &v));
-		EXPECT_EQ(flag == 1 ? 1u : 0u, v);
+		ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_overFlowFlag_get(8, v));
+		EXPECT_EQ(flag == 1 ? 1u : 0u, v[0]);
 	}
 }
 
@@ -111,10 +100,50 @@ TEST_F(MibTest, ResetWaitsWithoutBound)
 	rtl8309n_sim_fault_busy(&sim(), SIM_SPACE_SWITCH, 4, 15, 17, 0x0001, 500);
 	ClearTrace();
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_reset(0));
-	EXPECT_EQ(1u + 501, Count('R', 17)) << "one bit update, then 501 polls";
+	EXPECT_EQ(1 + 501, Count('R', 4, 17)) << "one bit update, then 501 polls";
 	EXPECT_EQ(0x8001, sw(4, 15, 16));
-	EXPECT_EQ(0u, sim().mib[0][5]);
-	EXPECT_EQ(43u, sim().mib[1][5]);
+	EXPECT_EQ(Pair(0, 43), Pair(sim().mib[0][5], sim().mib[1][5]));
+}
+
+class ApiStatTest : public ChipTest {};
+
+TEST_F(ApiStatTest, ChecksInOrderBeforeAnyChipAccess)
+{
+	static u32 v[4];
+	ExpectChecks({
+		{"port 9 before counter and pointer", [] { return rtk_mib_get(9, 16, nullptr); }, RT_ERR_PORT_ID},
+		{"counter 16 before pointer", [] { return rtk_mib_get(0, 16, nullptr); }, RT_ERR_INPUT},
+		{"counter -1", [] { return rtk_mib_get(0, static_cast<u32>(-1), v); }, RT_ERR_INPUT},
+		{"null result", [] { return rtk_mib_get(0, 4, nullptr); }, RT_ERR_NULL_POINTER},
+		{"upper half of tx bytes", [] { return rtk_mib_get(0, 1, v); }, RT_ERR_OK},
+		{"upper half of rx bytes", [] { return rtk_mib_get(8, 3, v); }, RT_ERR_OK},
+		{"reset port 9", [] { return rtk_stat_port_reset(9); }, RT_ERR_PORT_ID},
+		{"inner reset reports its own code", [] { return rtk_stat_portCntr_reset(9); }, RT_ERR_STAT_PORT_CNTR_FAIL},
+	});
+}
+
+TEST_F(ApiStatTest, CountersAndPortReset)
+{
+	rtl8309n_sim_mib_set_bytes(&sim(), 3, RTK_MIB_RX_BYTES, 0x0123456789ABCDEFull);
+	rtl8309n_sim_mib_set(&sim(), 3, 15, 0xDEADBEEF);
+	Words v{7, 7, 7, 7}, p{7, 7, 7, 7};
+	ASSERT_EQ(RT_ERR_OK, rtk_mib_get(3, RTK_MIB_RX_BYTES, v.data()));
+	EXPECT_EQ((Words{0xCDEF, 0x89AB, 0x4567, 0x0123}), v);
+	ASSERT_EQ(RT_ERR_OK, rtk_mib_get(3, 15, p.data()));
+	EXPECT_EQ((Words{0xDEADBEEF, 7, 7, 7}), p);
+	ASSERT_EQ(RT_ERR_OK, rtk_mib_get(3, 3, p.data()));
+	EXPECT_EQ(0xDEADBEEF, p[0]) << "ids 1 and 3 store nothing";
+	rtl8309n_sim_fault_busy(&sim(), SIM_SPACE_SWITCH, 4, 15, 18, 0x8000, SIM_FOREVER);
+	EXPECT_EQ(RT_ERR_FAILED, rtk_mib_get(3, 5, p.data()));
+	rtl8309n_sim_mib_set(&sim(), 3, 6, 42);
+	rtl8309n_sim_mib_set(&sim(), 0, 6, 17);
+	ASSERT_EQ(RT_ERR_OK, rtk_stat_port_reset(3));
+	EXPECT_EQ(Pair(0, 17), Pair(sim().mib[3][6], sim().mib[0][6]));
+	EXPECT_EQ(0x8008, sw(4, 15, 16));
+	// The driver's own paths call the inner step with their chosen port.
+	ASSERT_EQ(RT_ERR_OK, rtk_stat_portCntr_reset(0));
+	EXPECT_EQ(0u, sim().mib[0][6]);
+	EXPECT_EQ(0x8009, sw(4, 15, 16));
 }
 
 }  // namespace

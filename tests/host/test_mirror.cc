@@ -1,4 +1,4 @@
-// Port- and MAC-based mirroring registers.
+// Port- and MAC-based mirroring registers and the rtk_ mirror API.
 #include "chip_fixture.h"
 
 #include <array>
@@ -13,25 +13,22 @@ TEST_F(MirrorTest, PortBasedSetForcesSelfFilterAndKeepsOtherBits)
 	set_sw(5, 15, 17, 0xFFFF);
 	set_sw(5, 15, 18, 0xFE00);
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mirror_portBased_set(8, 0x1FF, 0));
-	EXPECT_EQ(0xFF78, sw(5, 15, 16));
-	EXPECT_EQ(0xFFFF, sw(5, 15, 18));
-	EXPECT_EQ(0xFE00, sw(5, 15, 17));
+	EXPECT_EQ(std::make_tuple(0xFF78, 0xFFFF, 0xFE00), std::make_tuple(sw(5, 15, 16), sw(5, 15, 18), sw(5, 15, 17)));
 	u32 port = 0, a = 0, b = 1;
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mirror_portBased_get(&port, &a, &b));
 	EXPECT_EQ(std::make_tuple(8u, 0x1FFu, 0u), std::make_tuple(port, a, b));
-
-	ClearTrace();
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mirror_portBased_set(0, 0x200, 0));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mirror_portBased_set(0, 0, 0x200));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mirror_portBased_set(9, 0, 0));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mirror_portBased_get(&port, &a, nullptr));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mirror_macBased_set(nullptr, 1));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mirror_macBased_get(nullptr, &a));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mirror_selfFilterEnable_get(nullptr));
-	EXPECT_TRUE(trace().empty());
+	ExpectChecks({
+		{"rx mask 0x200", [] { return rtl8309n_mirror_portBased_set(0, 0x200, 0); }},
+		{"tx mask 0x200", [] { return rtl8309n_mirror_portBased_set(0, 0, 0x200); }},
+		{"port 9", [] { return rtl8309n_mirror_portBased_set(9, 0, 0); }},
+		{"get null", [&] { return rtl8309n_mirror_portBased_get(&port, &a, nullptr); }},
+		{"mac set null", [] { return rtl8309n_mirror_macBased_set(nullptr, 1); }},
+		{"mac get null", [&] { return rtl8309n_mirror_macBased_get(nullptr, &a); }},
+		{"self filter get null", [] { return rtl8309n_mirror_selfFilterEnable_get(nullptr); }},
+	});
 }
 
-TEST_F(MirrorTest, FlagsTakeOnlyOneAsEnable)
+TEST_F(MirrorTest, FlagsTakeOnlyOneAsEnableAndMacByteOrder)
 {
 	for (u32 in : {1u, 0u, 2u}) {
 		u32 self = 9, pause = 9;
@@ -42,15 +39,12 @@ TEST_F(MirrorTest, FlagsTakeOnlyOneAsEnable)
 		ASSERT_EQ(RT_ERR_OK, rtl8309n_mirror_pauseFrameEnable_get(&pause));
 		EXPECT_EQ(std::make_tuple(in == 1, in == 1), std::make_tuple(self == 1, pause == 1));
 	}
-}
-
-TEST_F(MirrorTest, MacBasedByteOrder)
-{
 	const std::array<u8, 6> mac{0x00, 0x11, 0x22, 0x33, 0x44, 0x55};
 	std::array<u8, 6> out{};
 	u32 en = 0;
+	ClearTrace();
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mirror_macBased_set(mac.data(), 1));
-	EXPECT_EQ(W(5, 21, 0x5544), trace().back()) << "enable first, then 19, 20, 21";
+	EXPECT_EQ((std::vector<Pair>{{5, 16}, {5, 19}, {5, 20}, {5, 21}}), DataWrites()) << "enable first";
 	EXPECT_EQ(std::make_tuple(0x0010, 0x1100, 0x3322, 0x5544),
 		  std::make_tuple(sw(5, 15, 16), sw(5, 15, 19), sw(5, 15, 20), sw(5, 15, 21)));
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mirror_macBased_get(out.data(), &en));
@@ -58,6 +52,44 @@ TEST_F(MirrorTest, MacBasedByteOrder)
 	EXPECT_EQ(1u, en);
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_mirror_macBased_set(mac.data(), 2));
 	EXPECT_EQ(0, sw(5, 15, 16));
+}
+
+class ApiMirrorTest : public ChipTest {};
+
+TEST_F(ApiMirrorTest, ChecksInOrderBeforeAnyChipAccess)
+{
+	static u32 ok = 0x1FF, big = 0x200, out;
+	static u8 mac[6];
+	ExpectChecks({
+		{"port 9 before pointers", [] { return rtk_mirror_portBased_set(9, nullptr, nullptr); }, RT_ERR_PORT_ID},
+		{"null rx mask", [] { return rtk_mirror_portBased_set(8, nullptr, &big); }, RT_ERR_NULL_POINTER},
+		{"null tx before rx mask range", [] { return rtk_mirror_portBased_set(8, &big, nullptr); }, RT_ERR_NULL_POINTER},
+		{"rx mask 0x200", [] { return rtk_mirror_portBased_set(8, &big, &ok); }, RT_ERR_PORT_MASK},
+		{"tx mask 0x200", [] { return rtk_mirror_portBased_set(8, &ok, &big); }, RT_ERR_PORT_MASK},
+		{"get null port", [] { return rtk_mirror_portBased_get(nullptr, &out, &out); }, RT_ERR_NULL_POINTER},
+		{"get null tx", [] { return rtk_mirror_portBased_get(&out, &out, nullptr); }, RT_ERR_NULL_POINTER},
+		{"mac set null mac is a plain failure", [] { return rtk_mirror_macBased_set(nullptr, 1); }},
+		{"mac get null mac", [] { return rtk_mirror_macBased_get(nullptr, &out); }},
+		{"mac get null enable", [] { return rtk_mirror_macBased_get(mac, nullptr); }},
+	});
+}
+
+TEST_F(ApiMirrorTest, SettingsReachTheChipAndReadBack)
+{
+	u32 rx = 0x1FF, tx = 0x009, port = 0;
+	set_sw(5, 15, 17, 0xFE00);
+	ASSERT_EQ(RT_ERR_OK, rtk_mirror_portBased_set(8, &rx, &tx));
+	EXPECT_EQ(0x1FF, sw(5, 15, 18)) << "rx is mask A";
+	EXPECT_EQ(0xFE09, sw(5, 15, 17)) << "tx is mask B";
+	EXPECT_EQ(0x28, sw(5, 15, 16)) << "port 8, self-filter on";
+	rx = tx = 0;
+	ASSERT_EQ(RT_ERR_OK, rtk_mirror_portBased_get(&port, &rx, &tx));
+	EXPECT_EQ(std::make_tuple(8u, 0x1FFu, 9u), std::make_tuple(port, rx, tx));
+	u8 mac[6] = {0x00, 0x11, 0x22, 0x33, 0x44, 0x55}, back[6] = {};
+	u32 en = 7;
+	ASSERT_EQ(RT_ERR_OK, rtk_mirror_macBased_set(mac, 1));
+	ASSERT_EQ(RT_ERR_OK, rtk_mirror_macBased_get(back, &en));
+	EXPECT_EQ(std::make_pair(1u, 0x55u), std::make_pair(en, u32{back[5]}));
 }
 
 }  // namespace
