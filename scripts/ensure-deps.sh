@@ -9,8 +9,17 @@ board_pkgs="qemu-system-arm gcc-aarch64-linux-gnu linux-source-6.1 device-tree-c
 case "$1" in
 host) pkgs=$host_pkgs ;;
 board) pkgs="$host_pkgs $board_pkgs" ;;
-*) echo "usage: $0 host|board" >&2; exit 2 ;;
+kmod) pkgs="make gcc sparse linux-headers-amd64" ;;
+*) echo "usage: $0 host|board|kmod" >&2; exit 2 ;;
 esac
+
+# The board's initramfs takes busybox-static from Debian's arm64 archive.
+if [ "$1" = board ] && ! dpkg --print-foreign-architectures | grep -qx arm64; then
+	echo "Adding the arm64 architecture to dpkg"
+	S=; [ "$(id -u)" -eq 0 ] || S=sudo
+	$S dpkg --add-architecture arm64
+	$S apt-get update -qq
+fi
 
 missing=
 for p in $pkgs; do

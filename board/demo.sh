@@ -1,0 +1,104 @@
+#!/bin/sh
+# board: K12M3
+# timeout: 180
+# What a board engineer does with a fresh board: load the switch framework,
+# the driver and the board, look at the bus and the GPIOs, set up VLANs
+# through swconfig, ask the maintenance console, and pull a cable.
+# Driver steps are skipped while rtl8304.ko has not been built.
+. /lib/board.sh
+
+step() { echo; echo "=== $*"; }
+show() { echo "# $*"; "$@" 2>&1 | sed 's/^/  /'; }
+klog() { klog_new | grep -v 'swconfig-test: >' | sed 's/^/  kernel: /'; klog_mark; }
+swc() {
+	local a line="# swconfig"
+	for a in "$@"; do
+		case "$a" in *" "*) line="$line \"$a\"" ;; *) line="$line $a" ;; esac
+	done
+	echo "$line"
+	sw "$@" | sed 's/^/  /'
+}
+console() { echo "# echo \"$1\" > /proc/rtl8304"; echo "$1" >/proc/rtl8304; klog; }
+leds() {
+	echo "# LED lines in /sys/kernel/debug/gpio (raw 0 = lit, 1 = dark)"
+	grep -E 'rtl8304|switchnet' /sys/kernel/debug/gpio | sed 's/^/  /'
+}
+
+klog_mark
+step "Switch framework (test stand-in for OpenWrt's swconfig)"
+show insmod /modules/swconfig_test.ko
+if have_driver; then
+	step "Driver: insmod rtl8304.ko (board check, PHY fixup, PHY driver)"
+	show insmod /modules/rtl8304.ko
+else
+	step "Driver: rtl8304.ko not built yet, showing the board alone"
+fi
+klog
+
+step "Board: MDIO bus with the chip model; the FEC attaches to address 8"
+show insmod /modules/rtl8304_board.ko
+klog
+
+step "PHY devices the bus scan found"
+for d in /sys/bus/mdio_bus/devices/*; do
+	drv=$(readlink "$d/driver" 2>/dev/null || echo none)
+	echo "  $(basename "$d"): phy_id $(cat "$d/phy_id"), driver ${drv##*/}"
+done
+
+step "GPIO lines"
+show cat /sys/kernel/debug/gpio
+
+if ! have_driver || ! sw list | grep -q RTL8304MB; then
+	step "Board controls (driver steps skipped: no RTL8304MB switch device)"
+	show board_link 0 up
+	show cat "$BOARD_DBG/link"
+	show cat "$BOARD_DBG/stats"
+	echo
+	echo "Demo done (board only)."
+	exit 0
+fi
+
+step "Switch device"
+swc list
+swc dev RTL8304MB help
+
+step "VLANs: LAN port (1) in VLAN 100, WAN port (0) in VLAN 200, CPU port (3) tagged in both"
+swc dev RTL8304MB set enable_vlan 1
+swc dev RTL8304MB vlan 1 set ports "1 3t"
+swc dev RTL8304MB vlan 1 set vid 100
+swc dev RTL8304MB vlan 2 set ports "0 3t"
+swc dev RTL8304MB vlan 2 set vid 200
+swc dev RTL8304MB vlan 2 get ports
+swc dev RTL8304MB set apply
+klog
+
+step "The chip's VLAN table as the board sees it (chip ports 0..8)"
+grep -vE 'vid +0 ' "$BOARD_DBG/vlan" | sed 's/^/  /'
+swc dev RTL8304MB port 1 get pvid
+swc dev RTL8304MB port 0 get mask
+
+step "Maintenance console"
+console "show all vlan"
+
+step "Cables into both copper ports (chip ports 0 and 3)"
+board_link 0 up
+board_link 3 up
+sleep 3
+console "get phy status"
+swc dev RTL8304MB port 0 get link
+leds
+
+step "Cable out of chip port 0: its LED (led-gpio2) goes dark"
+board_link 0 down
+sleep 3
+console "get phy status"
+swc dev RTL8304MB port 0 get link
+leds
+
+step "Unload: board first (it holds the PHY), then the driver and the framework"
+show rmmod rtl8304_board
+show rmmod rtl8304
+show rmmod swconfig_test
+klog
+echo
+echo "Demo done."

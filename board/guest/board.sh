@@ -1,0 +1,109 @@
+# Helpers for scripts that run on the virtual board: . /lib/board.sh
+#
+# Modules of this boot are in /modules: swconfig_test.ko (switch framework
+# stand-in), rtl8304_board.ko (MDIO bus with the chip model, FEC stand-in),
+# swconfig_dummy.ko (tiny switch for framework tests) and rtl8304.ko when
+# the driver has been built.
+
+BOARD_DBG=/sys/kernel/debug/rtl8304-board
+SWCMD=/sys/kernel/debug/swconfig-test/cmd
+BOARD_FAILS=0
+
+have_driver() { [ -f /modules/rtl8304.ko ]; }
+
+# Switch framework, then the driver (its PHY fixup must exist before the bus
+# is scanned), then the board.  A driver that refuses the platform is not an
+# error here: tests of that case look at the kernel log.
+board_load() {
+	insmod /modules/swconfig_test.ko || return 1
+	if have_driver; then
+		insmod /modules/rtl8304.ko || echo "board: rtl8304.ko did not load"
+	fi
+	insmod /modules/rtl8304_board.ko
+}
+
+board_unload() {
+	rmmod rtl8304_board || return 1
+	if grep -q '^rtl8304 ' /proc/modules; then rmmod rtl8304 || return 1; fi
+	rmmod swconfig_test
+}
+
+# sw WORDS...: one swconfig command ("dev RTL8304MB port 0 get link"); prints
+# the answer, fails with the command.
+sw() {
+	local rc=0
+	echo "$*" 2>/dev/null >"$SWCMD" || rc=1
+	cat "$SWCMD"
+	return $rc
+}
+
+# board_link PHY up|down
+board_link() { echo "$1 $2" >"$BOARD_DBG/link"; }
+
+# board_reg sw|phy ADDR PAGE REG [VALUE]: read (prints 0xNNNN) or write a
+# register of the chip model directly, without bus traffic.
+board_reg() {
+	echo "$*" >"$BOARD_DBG/reg" || return 1
+	[ $# -eq 4 ] && cat "$BOARD_DBG/reg"
+	return 0
+}
+
+# gpio_level N: "hi" or "lo" of a requested GPIO line as gpiolib shows it.
+gpio_level() {
+	grep -E "gpio-$1 " /sys/kernel/debug/gpio | sed -E 's/.* (in|out) +(hi|lo).*/\2/'
+}
+
+# Kernel log marks: klog_mark, then klog_new prints what came after it.
+klog_mark() { BOARD_KLOG_MARK=$(dmesg | wc -l); }
+klog_new() { dmesg | tail -n +$((${BOARD_KLOG_MARK:-0} + 1)); }
+klog_has() { dmesg | grep -qF -- "$1"; }
+
+# wait_until SECONDS COMMAND...: poll a condition every 0.2 s.
+wait_until() {
+	local n=$(($1 * 5))
+	shift
+	while [ $n -gt 0 ]; do
+		"$@" && return 0
+		usleep 200000
+		n=$((n - 1))
+	done
+	return 1
+}
+
+# check DESCRIPTION COMMAND...: one test case; prints ok/FAIL and counts.
+check() {
+	local what=$1
+	shift
+	if "$@"; then
+		echo "ok   - $what"
+	else
+		echo "FAIL - $what"
+		BOARD_FAILS=$((BOARD_FAILS + 1))
+	fi
+}
+
+# eq EXPECTED ACTUAL: for check.
+eq() {
+	[ "$1" = "$2" ] && return 0
+	echo "       expected '$1'"
+	echo "       got      '$2'"
+	return 1
+}
+
+# Leak scan (kmemleak): prints suspected leaks, fails if there are any.
+# kmemleak reports only objects older than 5 s, hence the wait.
+board_leak_check() {
+	local f=/sys/kernel/debug/kmemleak
+	sleep 5
+	echo scan >$f
+	sleep 1
+	echo scan >$f
+	[ -z "$(cat $f)" ] && return 0
+	cat $f
+	return 1
+}
+
+finish() {
+	[ "$BOARD_FAILS" -eq 0 ] && echo "all checks passed" || echo "$BOARD_FAILS check(s) failed"
+	exit "$BOARD_FAILS"
+}

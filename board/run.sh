@@ -1,0 +1,120 @@
+#!/bin/bash
+# Boot the virtual board in QEMU and run one shell script in the guest.
+#
+#   run.sh [--board "WORDS"] [--timeout S] SCRIPT   run SCRIPT, print its output and
+#                                                   the kernel log, exit with its status
+#   run.sh [--board "WORDS"] --shell                interactive busybox shell
+#
+# The board variant comes from --board, else from a line
+# "# board: WORDS" in the script, else the default K12M3 board; see
+# build_dtb in board/build.sh for the words.  A line "# timeout: S" sets the
+# script's time limit (default 120 s).  A script fails also when the kernel
+# log shows a bug, warning, oops, lockdep or hung-task report, unless it has
+# a line "# kernel-warnings: allowed".
+#
+# In the guest: modules in /modules (rtl8304.ko when the driver has been
+# built), helpers in /lib/board.sh, the script at /board/script.sh.
+set -euo pipefail
+
+REPO=$(cd "$(dirname "$0")/.." && pwd)
+OUT=${BOARD_BUILD:-$REPO/build/board}
+case "$OUT" in /*) ;; *) OUT=$REPO/$OUT ;; esac
+export BOARD_BUILD=$OUT
+
+board=
+limit=
+shell=0
+script=
+while [ $# -gt 0 ]; do
+	case "$1" in
+	--board) board=$2; shift 2 ;;
+	--timeout) limit=$2; shift 2 ;;
+	--shell) shell=1; shift ;;
+	-*) echo "usage: $0 [--board WORDS] [--timeout S] SCRIPT | --shell" >&2; exit 2 ;;
+	*) script=$1; shift ;;
+	esac
+done
+if [ $shell = 0 ] && [ ! -f "$script" ]; then
+	echo "board: no script '$script' (usage: make board-run SCRIPT=path [BOARD=words])" >&2
+	exit 2
+fi
+
+header() { [ -z "$script" ] || sed -n "s/^# $1: *//p" "$script" | head -1; }
+[ -n "$board" ] || board=$(header board)
+[ -n "$limit" ] || limit=$(header timeout)
+[ -n "$limit" ] || limit=120
+
+if [ -z "${BOARD_NO_BUILD:-}" ]; then
+	"$REPO/scripts/ensure-deps.sh" board
+	"$REPO/board/build.sh" all
+fi
+# shellcheck disable=SC2086 # board words are words
+dtb=$("$REPO/board/build.sh" dtb $board)
+
+run=$(mktemp -d "$OUT/run.XXXXXX")
+trap 'rm -rf "$run"' EXIT
+mkdir -p "$run/root/board" "$run/root/modules"
+# Under the module build's lock, so that no half-written module is taken.
+flock -s "$OUT/.modules.lock" cp "$OUT"/kmod/*.ko "$run/root/modules/"
+# The driver: $RTL8304_KO (none: without it), else the newest arm64 build of
+# it (module build output, or a Kbuild run at the repository root).
+is_arm64_ko() { [ -f "$1" ] && [ "$(od -An -tu2 -j18 -N2 "$1" | tr -d ' ')" = 183 ]; }
+ko=${RTL8304_KO:-}
+if [ "$ko" = none ]; then
+	ko=
+elif [ -z "$ko" ]; then
+	for f in "$(dirname "$OUT")/kmod/arm64/rtl8304.ko" "$REPO/rtl8304.ko"; do
+		is_arm64_ko "$f" && { [ -z "$ko" ] || [ "$f" -nt "$ko" ]; } && ko=$f
+	done
+fi
+if [ -n "$ko" ]; then
+	cp "$ko" "$run/root/modules/rtl8304.ko"
+	echo "board: driver ${ko#"$REPO"/}"
+fi
+if [ $shell = 1 ]; then
+	touch "$run/root/board/shell"
+else
+	cp "$script" "$run/root/board/script.sh"
+	echo "$limit" >"$run/root/board/timeout"
+fi
+# The kernel unpacks concatenated archives one after the other.
+(cd "$run/root" && find . | cpio -o -H newc --owner=0:0 --quiet) | gzip -n >"$run/run.cpio.gz"
+cat "$OUT/rootfs.cpio.gz" "$run/run.cpio.gz" >"$run/initrd.gz"
+
+qemu=(qemu-system-aarch64 -M virt -cpu cortex-a53 -smp 2 -m 512 -nographic -no-reboot
+      -nic none -kernel "$OUT/linux/arch/arm64/boot/Image" -initrd "$run/initrd.gz"
+      -dtb "$dtb" -append "console=ttyAMA0 rdinit=/init loglevel=1 panic=-1 slub_debug=FZP")
+
+echo "board: booting [${board:-K12M3}]${script:+ with $script}"
+if [ $shell = 1 ]; then
+	"${qemu[@]}"
+	exit 0
+fi
+
+status=0
+timeout $((limit + 60)) "${qemu[@]}" </dev/null >"$run/console.raw" 2>&1 || status=$?
+tr -d '\r' <"$run/console.raw" >"$run/console.log"
+
+section() { sed -n "/@@BOARD-$1@@/,/@@BOARD-$2/p" "$run/console.log" | sed '1d;$d'; }
+
+if ! grep -q '@@BOARD-LOG-END@@' "$run/console.log"; then
+	cat "$run/console.log"
+	[ $status = 124 ] && echo "board: QEMU killed after $((limit + 60)) s"
+	echo "board: the guest did not finish (QEMU status $status)"
+	exit 1
+fi
+rc=$(sed -n 's/.*@@BOARD-SCRIPT-END rc=\([0-9]*\)@@.*/\1/p' "$run/console.log")
+echo "==== script output ===="
+section SCRIPT-BEGIN SCRIPT-END
+echo "==== kernel log ===="
+section LOG-BEGIN LOG-END | tee "$run/klog"
+echo "===================="
+
+problems=$(grep -E '(^|\] )BUG[: ]|WARNING:|Oops|Unable to handle kernel|Internal error:|INFO: task .* blocked|possible (recursive|circular) locking|inconsistent lock state|suspicious RCU usage|DEBUG_LOCKS_WARN_ON|kmemleak:.*new suspected' "$run/klog" || true)
+if [ -n "$problems" ] && [ "$(header kernel-warnings)" != allowed ]; then
+	echo "$problems"
+	echo "board: the kernel log shows a problem (above)"
+	[ "$rc" = 0 ] && rc=1
+fi
+echo "board: script exited with $rc"
+exit "$rc"
