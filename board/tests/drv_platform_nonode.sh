@@ -1,0 +1,13 @@
+#!/bin/sh
+# board: noplatform
+# Without the fsl,tw-platform node the check fails before any read.
+. /lib/board.sh
+want=$(printf '%s\n' "file:drivers/net/phy/rtl8304, line:1061, get device node failed!" "...The platform not support rtl8304!")
+insmod /modules/swconfig_test.ko
+for step in "insmod /modules/rtl8304.ko" "rmmod rtl8304"; do
+	klog_mark
+	check "$step" $step
+	check "$step: log" eq "$want" "$(klog_new | sed 's/^\[[^]]*\] //')"
+	check "$step: no PHY driver" test ! -e "/sys/bus/mdio_bus/drivers/Realtek RTL8304MB"
+done
+finish
