@@ -13,7 +13,8 @@
 # a line "# kernel-warnings: allowed".
 #
 # In the guest: modules in /modules (rtl8304.ko when the driver has been
-# built), helpers in /lib/board.sh, the script at /board/script.sh.
+# built), helpers in /lib/board.sh, the script at /board/script.sh and the
+# board words it runs on in /board/variant.
 set -euo pipefail
 
 REPO=$(cd "$(dirname "$0")/.." && pwd)
@@ -76,6 +77,7 @@ if [ $shell = 1 ]; then
 else
 	cp "$script" "$run/root/board/script.sh"
 	echo "$limit" >"$run/root/board/timeout"
+	echo "${board:-K12M3}" >"$run/root/board/variant"
 fi
 # The kernel unpacks concatenated archives one after the other.
 (cd "$run/root" && find . | cpio -o -H newc --owner=0:0 --quiet) | gzip -n >"$run/run.cpio.gz"
