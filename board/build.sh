@@ -92,7 +92,8 @@ build_kernel() {
 build_rootfs() {
 	local deb list=$OUT/rootfs.list d
 	[ -f "$OUT/rootfs.cpio.gz" ] && [ "$OUT/rootfs.cpio.gz" -nt "$REPO/board/guest/init" ] &&
-		[ "$OUT/rootfs.cpio.gz" -nt "$REPO/board/guest/board.sh" ] && return
+		[ "$OUT/rootfs.cpio.gz" -nt "$REPO/board/guest/board.sh" ] &&
+		[ "$OUT/rootfs.cpio.gz" -nt "$REPO/board/guest/procwrite.c" ] && return
 	exec 8>"$OUT/.rootfs.lock"
 	flock 8
 	mkdir -p "$OUT/debs"
@@ -107,6 +108,8 @@ build_rootfs() {
 	fi
 	rm -rf "$OUT/debs/x"
 	dpkg-deb -x "$deb" "$OUT/debs/x"
+	aarch64-linux-gnu-gcc -Os -static -nostdlib -ffreestanding -fno-stack-protector \
+		-Wall -Wextra -Werror -o "$OUT/procwrite" "$REPO/board/guest/procwrite.c"
 	# gen_init_cpio (from the kernel build) writes device nodes without root.
 	# The applet links are made by /init at boot (busybox --install -s): an
 	# arm64 busybox cannot list them on the build host.
@@ -120,6 +123,7 @@ build_rootfs() {
 		echo "file /bin/busybox $OUT/debs/x/bin/busybox 755 0 0"
 		echo "file /init $REPO/board/guest/init 755 0 0"
 		echo "file /lib/board.sh $REPO/board/guest/board.sh 644 0 0"
+		echo "file /bin/procwrite $OUT/procwrite 755 0 0"
 	} >"$list"
 	"$OUT/linux/usr/gen_init_cpio" "$list" | gzip -n >"$OUT/rootfs.cpio.gz.tmp"
 	mv "$OUT/rootfs.cpio.gz.tmp" "$OUT/rootfs.cpio.gz"

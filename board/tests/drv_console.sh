@@ -1,7 +1,8 @@
 #!/bin/sh
 # board: K12M3
 # /proc/rtl8304: every command once with its exact kernel-log output, then
-# recognition edge cases (case, prefixes, port checks, long writes).
+# recognition edge cases (case, prefixes, port checks, long, empty and
+# faulting writes).
 . /lib/board.sh
 klog() { klog_new | sed 's/^\[[^]]*\] //'; }
 # run TEXT: write TEXT to the console, print what it logged
@@ -82,4 +83,10 @@ check "1024-byte write" eq "===port = 3, pvid = 0x64, priority = 2" \
 check "1025-byte write: 1024 taken, the last byte is a command of its own" \
 	eq "$(printf '%s\n' 'The cpu port:8, tag enable' '***commamd unknow!')" \
 	"$(klog_mark; dd if=/tmp/w1025 of=/proc/rtl8304 bs=1025 2>/dev/null; klog)"
+
+# The writes busybox cannot make: zero bytes, and a buffer that faults.
+check "empty write: 0 returned, matches nothing" eq "$(printf '%s\n' 'write: 0' '***commamd unknow!')" \
+	"$(klog_mark; procwrite /proc/rtl8304 empty; klog)"
+check "faulting write: -14 returned, no command runs" eq "write: -14" \
+	"$(klog_mark; procwrite /proc/rtl8304 fault 12; klog)"
 finish
