@@ -3,7 +3,7 @@
 # Usage: ensure-deps.sh host|board|kmod
 set -e
 
-host_pkgs="cmake make g++ gcc libgtest-dev pkg-config"
+host_pkgs="cmake make g++ gcc libc6-dev libgtest-dev pkg-config"
 board_pkgs="qemu-system-arm gcc-aarch64-linux-gnu linux-source-6.1 device-tree-compiler bc flex bison libssl-dev libelf-dev cpio xz-utils kmod"
 
 case "$1" in
