@@ -154,9 +154,15 @@ static void board_adjust_link(struct net_device *ndev)
 
 /* ---- debugfs ---- */
 
+/* The board behind a debugfs file opened by single_open() or simple_open(). */
 static struct board *file_board(struct file *file)
 {
 	return ((struct seq_file *)file->private_data)->private;
+}
+
+static struct board *simple_board(struct file *file)
+{
+	return file->private_data;
 }
 
 /* Parse "sw"/"phy" (or 0/1). */
@@ -209,6 +215,33 @@ static int board_words(const char __user *ubuf, size_t len, char *buf, char **wo
 	return n;
 }
 
+/*
+ * A debugfs command file: split the line into at most @max words and hand
+ * them to @run, which returns 0 or an error.  Words beyond @max fail here.
+ */
+#define BOARD_MAX_WORDS	7
+
+static ssize_t board_cmd(struct board *b, const char __user *ubuf, size_t len, int max,
+			 int (*run)(struct board *b, char **w, int n))
+{
+	char buf[CMD_MAX], *w[BOARD_MAX_WORDS];
+	int n, ret;
+
+	n = board_words(ubuf, len, buf, w, max);
+	if (n < 0)
+		return n;
+	ret = run(b, w, n);
+	return ret < 0 ? ret : len;
+}
+
+#define BOARD_CMD_WRITE(name, max_words, board_of)					\
+static ssize_t name##_write(struct file *file, const char __user *ubuf, size_t len,	\
+			    loff_t *ppos)						\
+{											\
+	BUILD_BUG_ON((max_words) > BOARD_MAX_WORDS);					\
+	return board_cmd(board_of(file), ubuf, len, max_words, name##_cmd);		\
+}
+
 static int link_show(struct seq_file *m, void *v)
 {
 	struct board *b = m->private;
@@ -221,17 +254,11 @@ static int link_show(struct seq_file *m, void *v)
 	return 0;
 }
 
-static ssize_t link_write(struct file *file, const char __user *ubuf, size_t len,
-			  loff_t *ppos)
+static int link_cmd(struct board *b, char **w, int n)
 {
-	struct board *b = file_board(file);
-	char buf[CMD_MAX], *w[2];
 	u32 phy;
-	int up, n;
+	int up;
 
-	n = board_words(ubuf, len, buf, w, 2);
-	if (n < 0)
-		return n;
 	if (n != 2 || kstrtou32(w[0], 0, &phy) || phy >= SIM_NUM_PHY)
 		return -EINVAL;
 	if (!strcmp(w[1], "up") || !strcmp(w[1], "1"))
@@ -243,8 +270,9 @@ static ssize_t link_write(struct file *file, const char __user *ubuf, size_t len
 	mutex_lock(&b->lock);
 	rtl8309n_sim_set_link(b->sim, phy, up);
 	mutex_unlock(&b->lock);
-	return len;
+	return 0;
 }
+BOARD_CMD_WRITE(link, 2, file_board)
 
 static int mdio_show(struct seq_file *m, void *v)
 {
@@ -261,31 +289,24 @@ static int mdio_show(struct seq_file *m, void *v)
 	return 0;
 }
 
-static ssize_t mdio_write(struct file *file, const char __user *ubuf, size_t len,
-			  loff_t *ppos)
+static int mdio_cmd(struct board *b, char **w, int n)
 {
-	struct board *b = file_board(file);
-	char buf[CMD_MAX], *w[3];
 	u32 addr, reg;
 	u16 val;
-	int n, ret;
+	int ret;
 
-	n = board_words(ubuf, len, buf, w, 3);
-	if (n < 0)
-		return n;
 	if (n < 2 || kstrtou32(w[0], 0, &addr) || kstrtou32(w[1], 0, &reg) ||
 	    addr >= PHY_MAX_ADDR || reg > 31 || (n == 3 && kstrtou16(w[2], 0, &val)))
 		return -EINVAL;
-	if (n == 3) {
-		ret = mdiobus_write(b->bus, addr, reg, val);
-		return ret < 0 ? ret : len;
-	}
+	if (n == 3)
+		return mdiobus_write(b->bus, addr, reg, val);
 	ret = mdiobus_read(b->bus, addr, reg);
 	mutex_lock(&b->lock);
 	b->mdio_result = ret;
 	mutex_unlock(&b->lock);
-	return len;
+	return 0;
 }
+BOARD_CMD_WRITE(mdio, 3, file_board)
 
 static int reg_show(struct seq_file *m, void *v)
 {
@@ -299,19 +320,12 @@ static int reg_show(struct seq_file *m, void *v)
 	return 0;
 }
 
-static ssize_t reg_write(struct file *file, const char __user *ubuf, size_t len,
-			 loff_t *ppos)
+static int reg_cmd(struct board *b, char **w, int n)
 {
-	struct board *b = file_board(file);
-	char buf[CMD_MAX], *w[5];
 	struct sim_loc loc;
 	u32 addr, page, reg;
 	u16 val;
-	int n;
 
-	n = board_words(ubuf, len, buf, w, 5);
-	if (n < 0)
-		return n;
 	if (n < 4 || parse_space(w[0], &loc.space) || kstrtou32(w[1], 0, &addr) ||
 	    kstrtou32(w[2], 0, &page) || kstrtou32(w[3], 0, &reg) ||
 	    (n == 5 && kstrtou16(w[4], 0, &val)))
@@ -328,8 +342,9 @@ static ssize_t reg_write(struct file *file, const char __user *ubuf, size_t len,
 	if (n == 5)
 		rtl8309n_sim_poke(b->sim, loc.space, addr, page, reg, val);
 	mutex_unlock(&b->lock);
-	return len;
+	return 0;
 }
+BOARD_CMD_WRITE(reg, 5, file_board)
 
 /*
  * VLAN block: entries at (1|2|3, 16 + i, 16), control (0, 16, 16),
@@ -380,24 +395,17 @@ static int stats_show(struct seq_file *m, void *v)
 	return 0;
 }
 
-static ssize_t stats_write(struct file *file, const char __user *ubuf, size_t len,
-			   loff_t *ppos)
+static int stats_cmd(struct board *b, char **w, int n)
 {
-	struct board *b = file_board(file);
-	char buf[CMD_MAX], *w[1];
-	int n;
-
-	n = board_words(ubuf, len, buf, w, 1);
-	if (n < 0)
-		return n;
 	if (n != 1 || strcmp(w[0], "clear"))
 		return -EINVAL;
 	mutex_lock(&b->lock);
 	rtl8309n_sim_log_clear(b->sim);
 	b->sim->bad_page_accesses = 0;
 	mutex_unlock(&b->lock);
-	return len;
+	return 0;
 }
+BOARD_CMD_WRITE(stats, 1, file_board)
 
 static int log_show(struct seq_file *m, void *v)
 {
@@ -455,21 +463,14 @@ static int fault_show(struct seq_file *m, void *v)
 	return 0;
 }
 
-static ssize_t fault_write(struct file *file, const char __user *ubuf, size_t len,
-			   loff_t *ppos)
+static int fault_cmd(struct board *b, char **w, int n)
 {
-	struct board *b = file_board(file);
-	char buf[CMD_MAX], *w[7];
 	u32 addr, page, reg, count;
-	ssize_t ret = len;
 	u16 mask;
 	s32 err;
 	u8 space;
-	int n;
+	int ret = 0;
 
-	n = board_words(ubuf, len, buf, w, 7);
-	if (n < 0)
-		return n;
 	mutex_lock(&b->lock);
 	if (n == 2 && !strcmp(w[0], "busy") && !strcmp(w[1], "off")) {
 		rtl8309n_sim_fault_busy(b->sim, SIM_SPACE_SWITCH, 0, 0, 0, 0, 0);
@@ -489,19 +490,14 @@ static ssize_t fault_write(struct file *file, const char __user *ubuf, size_t le
 	mutex_unlock(&b->lock);
 	return ret;
 }
+BOARD_CMD_WRITE(fault, 7, file_board)
 
-static ssize_t mib_write(struct file *file, const char __user *ubuf, size_t len,
-			 loff_t *ppos)
+static int mib_cmd(struct board *b, char **w, int n)
 {
-	struct board *b = file->private_data;
-	char buf[CMD_MAX], *w[4];
 	u32 port, id;
 	u64 val;
-	int n, bytes;
+	int bytes;
 
-	n = board_words(ubuf, len, buf, w, 4);
-	if (n < 0)
-		return n;
 	bytes = n == 4 && !strcmp(w[0], "bytes");
 	if (n != 3 + bytes || kstrtou32(w[bytes], 0, &port) ||
 	    kstrtou32(w[bytes + 1], 0, &id) || kstrtou64(w[bytes + 2], 0, &val) ||
@@ -513,8 +509,9 @@ static ssize_t mib_write(struct file *file, const char __user *ubuf, size_t len,
 	else
 		rtl8309n_sim_mib_set(b->sim, port, id, val);
 	mutex_unlock(&b->lock);
-	return len;
+	return 0;
 }
+BOARD_CMD_WRITE(mib, 4, simple_board)
 
 #define BOARD_SEQ_FOPS(name, writer)						\
 static int name##_open(struct inode *inode, struct file *file)			\
