@@ -64,14 +64,10 @@ TEST_F(MibTest, BadArgumentsEnableStartStopAndOverflowBits)
 	for (u32 c : {0u, 1u, 16u})
 		EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_pktCnt_get(0, c, v)) << c;
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_byteCnt_get(9, 0, v));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_pktCnt_get(9, 4, v));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_byteCnt_get(0, 2, nullptr));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_pktCnt_get(0, 4, nullptr));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_overFlowFlag_set(9, 1));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_overFlowFlag_get(9, v));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_overFlowFlag_get(0, nullptr));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_enable_set(2));
-	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_enable_get(nullptr));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_start(16));
 	EXPECT_EQ(RT_ERR_FAILED, rtl8309n_mib_reset(9));
 	EXPECT_TRUE(trace().empty());
@@ -113,7 +109,6 @@ TEST_F(ApiStatTest, ChecksInOrderBeforeAnyChipAccess)
 	ExpectChecks({
 		{"port 9 before counter and pointer", [] { return rtk_mib_get(9, 16, nullptr); }, RT_ERR_PORT_ID},
 		{"counter 16 before pointer", [] { return rtk_mib_get(0, 16, nullptr); }, RT_ERR_INPUT},
-		{"counter -1", [] { return rtk_mib_get(0, static_cast<u32>(-1), v); }, RT_ERR_INPUT},
 		{"null result", [] { return rtk_mib_get(0, 4, nullptr); }, RT_ERR_NULL_POINTER},
 		{"upper half of tx bytes", [] { return rtk_mib_get(0, 1, v); }, RT_ERR_OK},
 		{"upper half of rx bytes", [] { return rtk_mib_get(8, 3, v); }, RT_ERR_OK},

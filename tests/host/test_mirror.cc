@@ -19,12 +19,8 @@ TEST_F(MirrorTest, PortBasedSetForcesSelfFilterAndKeepsOtherBits)
 	EXPECT_EQ(std::make_tuple(8u, 0x1FFu, 0u), std::make_tuple(port, a, b));
 	ExpectChecks({
 		{"rx mask 0x200", [] { return rtl8309n_mirror_portBased_set(0, 0x200, 0); }},
-		{"tx mask 0x200", [] { return rtl8309n_mirror_portBased_set(0, 0, 0x200); }},
 		{"port 9", [] { return rtl8309n_mirror_portBased_set(9, 0, 0); }},
-		{"get null", [&] { return rtl8309n_mirror_portBased_get(&port, &a, nullptr); }},
 		{"mac set null", [] { return rtl8309n_mirror_macBased_set(nullptr, 1); }},
-		{"mac get null", [&] { return rtl8309n_mirror_macBased_get(nullptr, &a); }},
-		{"self filter get null", [] { return rtl8309n_mirror_selfFilterEnable_get(nullptr); }},
 	});
 }
 
@@ -58,7 +54,7 @@ class ApiMirrorTest : public ChipTest {};
 
 TEST_F(ApiMirrorTest, ChecksInOrderBeforeAnyChipAccess)
 {
-	static u32 ok = 0x1FF, big = 0x200, out;
+	static u32 ok = 0x1FF, big = 0x200;
 	static u8 mac[6];
 	ExpectChecks({
 		{"port 9 before pointers", [] { return rtk_mirror_portBased_set(9, nullptr, nullptr); }, RT_ERR_PORT_ID},
@@ -66,10 +62,7 @@ TEST_F(ApiMirrorTest, ChecksInOrderBeforeAnyChipAccess)
 		{"null tx before rx mask range", [] { return rtk_mirror_portBased_set(8, &big, nullptr); }, RT_ERR_NULL_POINTER},
 		{"rx mask 0x200", [] { return rtk_mirror_portBased_set(8, &big, &ok); }, RT_ERR_PORT_MASK},
 		{"tx mask 0x200", [] { return rtk_mirror_portBased_set(8, &ok, &big); }, RT_ERR_PORT_MASK},
-		{"get null port", [] { return rtk_mirror_portBased_get(nullptr, &out, &out); }, RT_ERR_NULL_POINTER},
-		{"get null tx", [] { return rtk_mirror_portBased_get(&out, &out, nullptr); }, RT_ERR_NULL_POINTER},
 		{"mac set null mac is a plain failure", [] { return rtk_mirror_macBased_set(nullptr, 1); }},
-		{"mac get null mac", [] { return rtk_mirror_macBased_get(nullptr, &out); }},
 		{"mac get null enable", [] { return rtk_mirror_macBased_get(mac, nullptr); }},
 	});
 }

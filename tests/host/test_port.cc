@@ -104,7 +104,6 @@ TEST_F(PortTest, Ext0ModeCodesAndForcedLinkBits)
 		{"nway 2", bad({0, 0, 0, 2, 0, 0})}, {"txpause 2", bad({0, 0, 0, 0, 2, 0})},
 		{"rxpause 2", bad({0, 0, 0, 0, 0, 2})},
 		{"get null", [&] { return rtl8309n_port_macForceLinkExt0_get(&mode, nullptr); }},
-		{"status null", [&] { return rtl8309n_port_macAbilityExt0_get(&mode, nullptr); }},
 	});
 }
 
@@ -193,9 +192,7 @@ TEST_F(ApiPortTest, ChecksComeFirstInOrderWithoutBusTraffic)
 		 RT_ERR_INPUT},
 		{"forceMode autoNegotiation 2",
 		 [] { g_ab = {2, 0, 0, 0, 0, 0, 0, 0}; return rtk_port_phyForceModeAbility_set(0, &g_ab); }, RT_ERR_INPUT},
-		{"forceMode_get null", [] { return rtk_port_phyForceModeAbility_get(7, nullptr); }, RT_ERR_NULL_POINTER},
 		{"phyStatus port 8", [] { return rtk_port_phyStatus_get(8, &g_a, &g_b, &g_c); }, RT_ERR_PORT_ID},
-		{"phyStatus null link", [] { return rtk_port_phyStatus_get(0, nullptr, &g_b, &g_c); }, RT_ERR_NULL_POINTER},
 		{"isolation port 9", [] { return rtk_port_isolation_set(9, 0); }, RT_ERR_PORT_ID},
 		{"isolation mask 0x200", [] { return rtk_port_isolation_set(8, 0x200); }, RT_ERR_PORT_MASK},
 	});

@@ -86,9 +86,7 @@ TEST_F(TrapTest, BitPlacementPolarityAndRefusals)
 		{"abnormal type 4 has no bit", [] { return rtl8309n_trap_abnormalPktAction_set(4, 2); }, RT_ERR_OK},
 		{"abnormal get type 4", [&] { return rtl8309n_trap_abnormalPktAction_get(4, &v); }, RT_ERR_OK},
 		{"rma set index 19", [&] { return rtl8309n_rma_entry_set(19, &e); }},
-		{"user set null mac", [&] { return rtl8309n_rma_userentry_set(&e, nullptr); }},
 		{"igmp type 4", [] { return rtl8309n_igmp_enable_set(4, 1); }},
-		{"unknown mc type 2", [] { return rtl8309n_trap_unknownIPMcastPktAction_set(2, 3); }},
 		{"unknown mc action 2", [] { return rtl8309n_trap_unknownIPMcastPktAction_set(0, 2); }},
 		{"abnormal type 5", [] { return rtl8309n_trap_abnormalPktAction_set(5, 2); }},
 		{"abnormal type 4 action 0", [] { return rtl8309n_trap_abnormalPktAction_set(4, 0); }},
@@ -161,25 +159,11 @@ TEST_F(IntrStormTest, SharedFilterOwnBlockBitsAndRefusals)
 	rtl8309n_storm_filterEnable_get(4, 1, &one);
 	rtl8309n_storm_filterEnable_get(4, 2, &two);
 	EXPECT_EQ(Pair(1, 0), Pair(one, two));
-	for (u32 type : {0u, 3u}) {
-		const u32 ctrl = type ? 16 : 22;
-		u32 en = 9, st = 9;
-		set_sw(8, 8, ctrl, 0x8000);
-		rtl8309n_storm_filterEnable_set(8, type, 1);
-		rtl8309n_storm_filterStatus_set(8, type, 2);  // only exactly 1 sets
-		EXPECT_EQ(0x8001, sw(8, 8, ctrl)) << "type " << type;
-		rtl8309n_storm_filterEnable_get(8, type, &en);
-		rtl8309n_storm_filterStatus_get(8, type, &st);
-		EXPECT_EQ(Pair(1, 0), Pair(en, st));
-	}
-	u32 v;
 	ExpectChecks({
 		{"intr mask 0x2000", [] { return rtl8309n_intr_enable_set(1, 0x2000); }},
-		{"intr get null mask", [&] { return rtl8309n_intr_enable_get(&v, nullptr); }},
 		{"status 0x2000", [] { return rtl8309n_intr_status_set(0x2000); }},
 		{"enable port 9", [] { return rtl8309n_storm_filterEnable_set(9, 0, 1); }},
 		{"attr type 4", [] { return rtl8309n_storm_filterAttr_set(0, 4, nullptr); }},
-		{"status get port 9", [&] { return rtl8309n_storm_filterStatus_get(9, 0, &v); }},
 	});
 }
 
@@ -187,30 +171,20 @@ class ApiStpTrapStormTest : public ChipTest {};
 
 TEST_F(ApiStpTrapStormTest, ChecksInOrderBeforeAnyChipAccess)
 {
-	static u32 out;
-	static rtk_storm_attr_t attr;
 	ExpectChecks({
 		{"stp port before state", [] { return rtk_stp_mstpState_set(0, 9, 4); }, RT_ERR_PORT_ID},
 		{"stp state 4", [] { return rtk_stp_mstpState_set(0, 0, 4); }, RT_ERR_MSTP_STATE},
-		{"stp get null", [] { return rtk_stp_mstpState_get(0, 0, nullptr); }, RT_ERR_NULL_POINTER},
 		{"mcast port 9 though unused", [] { return rtk_trap_unknownMcastPktAction_set(9, 0, 2); }, RT_ERR_PORT_ID},
 		{"mcast type 0", [] { return rtk_trap_unknownMcastPktAction_set(0, 0, 0); }, RT_ERR_INPUT},
-		{"mcast type 3", [] { return rtk_trap_unknownMcastPktAction_set(0, 3, 0); }, RT_ERR_INPUT},
 		{"mcast action 2", [] { return rtk_trap_unknownMcastPktAction_set(0, 1, 2); }, RT_ERR_INPUT},
 		{"mcast get type before null", [] { return rtk_trap_unknownMcastPktAction_get(0, 0, nullptr); }, RT_ERR_INPUT},
-		{"mcast get null", [] { return rtk_trap_unknownMcastPktAction_get(0, 2, nullptr); }, RT_ERR_NULL_POINTER},
 		{"igmp type 4", [] { return rtk_trap_igmpCtrlPktAction_set(4, 0); }, RT_ERR_INPUT},
 		{"igmp action 5", [] { return rtk_trap_igmpCtrlPktAction_set(0, 5); }, RT_ERR_INPUT},
 		{"igmp get type before null", [] { return rtk_trap_igmpCtrlPktAction_get(4, nullptr); }, RT_ERR_INPUT},
-		{"igmp get null", [] { return rtk_trap_igmpCtrlPktAction_get(3, nullptr); }, RT_ERR_NULL_POINTER},
 		{"storm port before type", [] { return rtk_storm_filterEnable_set(9, 4, 1); }, RT_ERR_PORT_ID},
 		{"storm type 4", [] { return rtk_storm_filterEnable_set(0, 4, 1); }, RT_ERR_INPUT},
 		{"storm get type before null", [] { return rtk_storm_filterEnable_get(0, 4, nullptr); }, RT_ERR_INPUT},
 		{"storm attr null", [] { return rtk_storm_filterAttr_set(8, 3, nullptr); }, RT_ERR_NULL_POINTER},
-		{"storm attr get port 9", [] { return rtk_storm_filterAttr_get(9, 0, &attr); }, RT_ERR_PORT_ID},
-		{"storm status type 4", [] { return rtk_storm_filterStatus_set(0, 4, 1); }, RT_ERR_INPUT},
-		{"storm status get null", [] { return rtk_storm_filterStatus_get(0, 0, nullptr); }, RT_ERR_NULL_POINTER},
-		{"storm status get port 9", [] { return rtk_storm_filterStatus_get(9, 0, &out); }, RT_ERR_PORT_ID},
 	});
 }
 
