@@ -70,12 +70,6 @@ static inline void rtk_put_opt(u32 *pout, u32 value)
 		*pout = value;
 }
 
-/* Group (multicast) address: bit 0 of the first byte. */
-static inline int rtk_mac_is_mcast(const u8 *mac)
-{
-	return mac[0] & 0x01;
-}
-
 /*
  * A MAC argument that must be present and of kind @group (1 multicast,
  * 0 unicast); the two failure codes differ from call to call.
@@ -85,7 +79,7 @@ static inline rtk_api_ret_t rtk_chk_mac(const u8 *mac, int group, rtk_api_ret_t 
 {
 	if (!mac)
 		return null_err;
-	return rtk_mac_is_mcast(mac) == group ? RT_ERR_OK : kind_err;
+	return rtl8309n_mac_is_mcast(mac) == group ? RT_ERR_OK : kind_err;
 }
 
 /* The compiler's builtins: this layer has no libc, the kernel has its own. */

@@ -91,7 +91,7 @@ rtk_api_ret_t rtk_l2_addr_get(const u8 *mac, u32 fid, rtk_l2_ucastAddr_t *paddr)
 	 * The kind of the MAC is checked before its presence; a missing MAC
 	 * skips that check instead of being read.
 	 */
-	ret = (mac && rtk_mac_is_mcast(mac) ? RT_ERR_MAC : RT_ERR_OK) ?:
+	ret = (mac && rtl8309n_mac_is_mcast(mac) ? RT_ERR_MAC : RT_ERR_OK) ?:
 	      l2_chk_fid(fid, RTK_L2_FID_MAX) ?: rtk_chk_ptr(mac) ?: rtk_chk_ptr(paddr) ?:
 	      l2_ret(rtl8309n_l2_ucastAddr_get(mac, fid, &entry, &idx),
 		     RT_ERR_FAILED, RT_ERR_L2_ENTRY_NOTFOUND);

@@ -407,6 +407,12 @@ s32 rtl8309n_mirror_macBased_get(u8 *mac, u32 *penabled);
 #define RTL8309N_L2_NO_INDEX		10000	/* index output when nothing was found */
 #define RTL8309N_MAC_LEN		6
 
+/* Group (multicast) address: bit 0 of the first byte. */
+static inline int rtl8309n_mac_is_mcast(const u8 *mac)
+{
+	return mac[0] & 0x01;
+}
+
 /* The action controls take RTL8309N_ACT_TRAP or RTL8309N_ACT_DROP. */
 typedef struct rtl8309n_l2_ucastEntry {
 	u32 isStatic;

@@ -84,20 +84,6 @@ struct rtl8309n_regfield {
 #define RTL8309N_NO_FIELD(idx)	{ .width = 0, .index = (idx) }
 
 /*
- * Define <name>_set and <name>_get over the one-bit field @f, for the plain
- * enable flags that are nothing but a table entry (exactly 1 enables).
- */
-#define RTL8309N_FLAG_ACCESSORS(name, f)			\
-	s32 name##_set(u32 enabled)				\
-	{							\
-		return rtl8309n_regfield_set(&(f), 0, enabled);	\
-	}							\
-	s32 name##_get(u32 *pEnabled)				\
-	{							\
-		return rtl8309n_regfield_get(&(f), 0, pEnabled);	\
-	}
-
-/*
  * A value kept in a register of its own: the setter refuses a value above
  * @max and writes the whole register; the getter refuses a null pointer
  * and reports the low @width bits.  Both fail before any bus access.

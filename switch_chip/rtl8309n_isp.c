@@ -12,7 +12,7 @@ static const struct rtl8309n_regfield isp_enable =
 	RTL8309N_GLOBAL_BIT(RTL8309N_ISP_ADDR, RTL8309N_ISP_CTRL_REG, RTL8309N_ISP_PAGE,
 			    RTL8309N_ISP_EN_BIT, RTL8309N_ACTIVE_HIGH);
 
-RTL8309N_FLAG_ACCESSORS(rtl8309n_isp_enable, isp_enable)
+RTL8309N_GLOBAL_ACCESSORS(isp_enable, u32, isp_enable)
 
 s32 rtl8309n_isp_mac_set(const u16 *pMac)
 {

@@ -20,7 +20,6 @@
 
 #define L2_WAY_SHIFT		9
 #define L2_INDEX(hash, way)	(((way) << L2_WAY_SHIFT) | (hash))
-#define L2_IS_MCAST(mac)	((mac)[0] & 1)
 #define L2_HASH_BITS		9
 #define L2_PORTMASK_MAX		0x1FF
 #define L2_SYS_LIMIT_A_MAX	255
@@ -232,7 +231,7 @@ s32 rtl8309n_l2_ucastEntry_set(u32 index, const rtl8309n_l2_ucastEntry *entry)
 	u32 word;
 
 	/* A NULL record is refused rather than dereferenced. */
-	if (!entry || L2_IS_MCAST(entry->mac) || entry->age > RTL8309N_L2_MAX_AGE ||
+	if (!entry || rtl8309n_mac_is_mcast(entry->mac) || entry->age > RTL8309N_L2_MAX_AGE ||
 	    entry->port > RTL8309N_MAX_PORT)
 		return RT_ERR_FAILED;
 
@@ -264,7 +263,7 @@ s32 rtl8309n_l2_mcastEntry_set(u32 index, const rtl8309n_l2_mcastEntry *entry)
 {
 	u32 word;
 
-	if (!entry || entry->portMask > L2_PORTMASK_MAX || !L2_IS_MCAST(entry->mac))
+	if (!entry || entry->portMask > L2_PORTMASK_MAX || !rtl8309n_mac_is_mcast(entry->mac))
 		return RT_ERR_FAILED;
 
 	word = (entry->fid & RTL8309N_L2_WORD_FID_MASK) |
@@ -344,7 +343,7 @@ static void l2_scan_start(struct l2_scan *sc, const u8 *mac, u32 fid)
  */
 static int l2_replaceable(const struct l2_raw *raw)
 {
-	return !L2_IS_MCAST(raw->mac) &&
+	return !rtl8309n_mac_is_mcast(raw->mac) &&
 	       !(raw->word & (RTL8309N_L2_WORD_AUTH | RTL8309N_L2_WORD_STATIC));
 }
 
@@ -433,8 +432,8 @@ s32 rtl8309n_l2_ucastAddr_add(const u8 *mac, u32 fid, const rtl8309n_l2_ucastEnt
 	int matched;
 	s32 ret;
 
-	if (!mac || !pindex || !entry || fid > RTL8309N_L2_MAX_FID || L2_IS_MCAST(mac) ||
-	    L2_IS_MCAST(entry->mac))
+	if (!mac || !pindex || !entry || fid > RTL8309N_L2_MAX_FID || rtl8309n_mac_is_mcast(mac) ||
+	    rtl8309n_mac_is_mcast(entry->mac))
 		return RT_ERR_FAILED;
 
 	ret = l2_add_find(&sc, mac, fid, &matched);
@@ -461,7 +460,7 @@ s32 rtl8309n_l2_ucastAddr_get(const u8 *mac, u32 fid, rtl8309n_l2_ucastEntry *en
 	struct l2_scan sc;
 	s32 ret;
 
-	if (!mac || fid > RTL8309N_L2_MAX_FID || L2_IS_MCAST(mac) || !entry || !pindex)
+	if (!mac || fid > RTL8309N_L2_MAX_FID || rtl8309n_mac_is_mcast(mac) || !entry || !pindex)
 		return RT_ERR_FAILED;
 
 	*pindex = 0;
@@ -479,7 +478,7 @@ s32 rtl8309n_l2_ucastAddr_get(const u8 *mac, u32 fid, rtl8309n_l2_ucastEntry *en
 /* Failed clearing writes are not reported. */
 s32 rtl8309n_l2_ucastAddr_del(const u8 *mac, u32 fid, u32 *pindex)
 {
-	if (!mac || !pindex || fid > RTL8309N_L2_MAX_FID || L2_IS_MCAST(mac))
+	if (!mac || !pindex || fid > RTL8309N_L2_MAX_FID || rtl8309n_mac_is_mcast(mac))
 		return RT_ERR_FAILED;
 	return l2_clear_all(mac, fid, pindex, 0);
 }
@@ -496,7 +495,7 @@ s32 rtl8309n_l2_mcastAddr_add(const u8 *mac, u32 fid, u32 portMask, u32 *pindex)
 	int matched;
 	s32 ret;
 
-	if (!mac || !pindex || !L2_IS_MCAST(mac) || portMask > L2_PORTMASK_MAX ||
+	if (!mac || !pindex || !rtl8309n_mac_is_mcast(mac) || portMask > L2_PORTMASK_MAX ||
 	    fid > RTL8309N_L2_MAX_FID)
 		return RT_ERR_FAILED;
 
@@ -530,7 +529,7 @@ s32 rtl8309n_l2_mcastAddr_get(const u8 *mac, u32 fid, u32 *pportMask, u32 *pinde
 	struct l2_scan sc;
 	s32 ret;
 
-	if (!pportMask || !pindex || !mac || fid > RTL8309N_L2_MAX_FID || !L2_IS_MCAST(mac))
+	if (!pportMask || !pindex || !mac || fid > RTL8309N_L2_MAX_FID || !rtl8309n_mac_is_mcast(mac))
 		return RT_ERR_FAILED;
 
 	ret = l2_find(&sc, mac, fid, pindex);
@@ -544,7 +543,7 @@ s32 rtl8309n_l2_mcastAddr_get(const u8 *mac, u32 fid, u32 *pportMask, u32 *pinde
 
 s32 rtl8309n_l2_mcastAddr_del(const u8 *mac, u32 fid, u32 *pindex)
 {
-	if (!mac || !pindex || fid > RTL8309N_L2_MAX_FID || !L2_IS_MCAST(mac))
+	if (!mac || !pindex || fid > RTL8309N_L2_MAX_FID || !rtl8309n_mac_is_mcast(mac))
 		return RT_ERR_FAILED;
 	return l2_clear_all(mac, fid, pindex, 1);
 }
@@ -576,7 +575,7 @@ s32 rtl8309n_l2_portMacLimit_get(u32 port, u32 *plimit)
 	return rtl8309n_regfield_get(&l2_fields[L2_F_PORT_LIMIT], port, plimit);
 }
 
-RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_systemMacLimitEnable, l2_fields[L2_F_SYS_LIMIT_EN])
+RTL8309N_GLOBAL_ACCESSORS(l2_systemMacLimitEnable, u32, l2_fields[L2_F_SYS_LIMIT_EN])
 
 /*
  * Two limit values: @limitA (8 bits) beside the 9-bit @limitB.  Both are
@@ -624,13 +623,13 @@ s32 rtl8309n_l2_portlearningCnt_get(u32 port, u32 *pcount)
 }
 
 /* CAM and unknown-DA drop sit in disable bits; the field table inverts them. */
-RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_lruEnable, l2_fields[L2_F_LRU])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_camEnable, l2_fields[L2_F_CAM])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_flushEnable, l2_fields[L2_F_FLUSH])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_agingEnable, l2_fields[L2_F_AGING])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_fastAgingEnable, l2_fields[L2_F_FAST_AGING])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_dpMskEnable, l2_fields[L2_F_DP_MASK])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_l2_unkownDaDropEnable, l2_fields[L2_F_UNKNOWN_DA_DROP])
+RTL8309N_GLOBAL_ACCESSORS(l2_lruEnable, u32, l2_fields[L2_F_LRU])
+RTL8309N_GLOBAL_ACCESSORS(l2_camEnable, u32, l2_fields[L2_F_CAM])
+RTL8309N_GLOBAL_ACCESSORS(l2_flushEnable, u32, l2_fields[L2_F_FLUSH])
+RTL8309N_GLOBAL_ACCESSORS(l2_agingEnable, u32, l2_fields[L2_F_AGING])
+RTL8309N_GLOBAL_ACCESSORS(l2_fastAgingEnable, u32, l2_fields[L2_F_FAST_AGING])
+RTL8309N_GLOBAL_ACCESSORS(l2_dpMskEnable, u32, l2_fields[L2_F_DP_MASK])
+RTL8309N_GLOBAL_ACCESSORS(l2_unkownDaDropEnable, u32, l2_fields[L2_F_UNKNOWN_DA_DROP])
 
 s32 rtl8309n_l2_sablockAction_set(u32 action)
 {

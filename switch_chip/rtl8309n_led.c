@@ -44,9 +44,9 @@ static const struct rtl8309n_regfield led_flags[LED_FLAGS] = {
 static const struct rtl8309n_regfield led_rlpp_rate =
 	LED_FLAG(RTL8309N_LED_RLPP_RATE_BIT, RTL8309N_ACTIVE_HIGH);
 
-RTL8309N_FLAG_ACCESSORS(rtl8309n_led_rstBlinkEnable, led_flags[LED_RST_BLINK])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_led_rldpEnable, led_flags[LED_RLDP])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_led_led1Enable, led_flags[LED_LED1])
+RTL8309N_GLOBAL_ACCESSORS(led_rstBlinkEnable, u32, led_flags[LED_RST_BLINK])
+RTL8309N_GLOBAL_ACCESSORS(led_rldpEnable, u32, led_flags[LED_RLDP])
+RTL8309N_GLOBAL_ACCESSORS(led_led1Enable, u32, led_flags[LED_LED1])
 
 s32 rtl8309n_led_modeBlinkRate_set(u32 mode, u32 rate)
 {

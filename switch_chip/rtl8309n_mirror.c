@@ -43,8 +43,8 @@ static s32 mirror_get(enum mirror_field_id id, u32 *pvalue)
 	return rtl8309n_regfield_get(&mirror_fields[id], 0, pvalue);
 }
 
-RTL8309N_FLAG_ACCESSORS(rtl8309n_mirror_selfFilterEnable, mirror_fields[MIRROR_F_SELF_FILTER])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_mirror_pauseFrameEnable, mirror_fields[MIRROR_F_PAUSE])
+RTL8309N_GLOBAL_ACCESSORS(mirror_selfFilterEnable, u32, mirror_fields[MIRROR_F_SELF_FILTER])
+RTL8309N_GLOBAL_ACCESSORS(mirror_pauseFrameEnable, u32, mirror_fields[MIRROR_F_PAUSE])
 
 /* Setting a mirror port always turns self-filtering on, whatever it was. */
 s32 rtl8309n_mirror_portBased_set(u32 mirport, u32 maskA, u32 maskB)

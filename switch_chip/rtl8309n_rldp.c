@@ -46,11 +46,11 @@ static const struct rtl8309n_regfield rlpp_action =
  * The chip library leaves these getters' pointers unchecked; a null one is
  * refused here like everywhere else rather than written through.
  */
-RTL8309N_FLAG_ACCESSORS(rtl8309n_rldp_enable, rldp_flags[RLDP_ENABLE])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_rldp_priEnable, rldp_flags[RLDP_PRI])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_rldp_ttlEnable, rldp_flags[RLDP_TTL])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_rldp_stormFilterEnable, rldp_flags[RLDP_STORM])
-RTL8309N_FLAG_ACCESSORS(rtl8309n_rldp_vlanTagEnable, rldp_flags[RLDP_VLANTAG])
+RTL8309N_GLOBAL_ACCESSORS(rldp_enable, u32, rldp_flags[RLDP_ENABLE])
+RTL8309N_GLOBAL_ACCESSORS(rldp_priEnable, u32, rldp_flags[RLDP_PRI])
+RTL8309N_GLOBAL_ACCESSORS(rldp_ttlEnable, u32, rldp_flags[RLDP_TTL])
+RTL8309N_GLOBAL_ACCESSORS(rldp_stormFilterEnable, u32, rldp_flags[RLDP_STORM])
+RTL8309N_GLOBAL_ACCESSORS(rldp_vlanTagEnable, u32, rldp_flags[RLDP_VLANTAG])
 
 /* Unlike its siblings, this one takes any non-zero value as "enable". */
 s32 rtl8309n_rldp_identifierEnable_set(u32 enabled)

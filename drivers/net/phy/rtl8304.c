@@ -825,7 +825,7 @@ static bool rtl8304_make_mac(const int *arg, u8 *mac)
 	mac[3] = mac2 >> 16;
 	mac[4] = mac2 >> 8;
 	mac[5] = mac2;
-	return !(mac[0] & 1);
+	return !rtl8309n_mac_is_mcast(mac);
 }
 
 /*
