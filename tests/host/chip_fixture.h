@@ -74,6 +74,21 @@ protected:
 			EXPECT_TRUE(trace().empty());
 		}
 	}
+	// @ret is a setter's result: it must succeed and leave @want in switch
+	// register (@addr, @page, @reg).
+	void ExpectSet(s32 ret, u32 addr, u32 page, u32 reg, u32 want, const char *why = "")
+	{
+		EXPECT_EQ(RT_ERR_OK, ret) << why;
+		EXPECT_EQ(want, sw(addr, page, reg)) << why;
+	}
+	// @ret is a call's result: it must succeed and leave @want in @out (a
+	// getter's output or a location of the chip model, read after the call).
+	template <typename T, typename U>
+	void ExpectGot(s32 ret, const T &out, const U &want, const char *why = "")
+	{
+		EXPECT_EQ(RT_ERR_OK, ret) << why;
+		EXPECT_EQ(want, out) << why;
+	}
 	// Transactions @op on (@addr, @reg) since ClearTrace().
 	long Count(char op, u32 addr, u32 reg) const
 	{

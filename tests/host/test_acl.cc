@@ -11,8 +11,7 @@ TEST_F(AclTest, FreeEntryPackingKeepsUpperFieldBits)
 	set_sw(3, 15, 19, 0xFC00);
 	set_sw(2, 17, 16, 0x0102);
 	const acl_entry free_entry{0, 3, 9, 0, 0};
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_acl_entry_set(15, &free_entry));
-	EXPECT_EQ(0x024, sim().acl_fields[15]);
+	ExpectGot(rtl8309n_acl_entry_set(15, &free_entry), sim().acl_fields[15], 0x024);
 	EXPECT_EQ(0xFC24, sw(3, 15, 19)) << "bits 10-15 kept";
 	EXPECT_EQ(0x01E3, sw(2, 17, 16)) << "bits 0, 5, 6, 7 set, others kept";
 	EXPECT_EQ(0, sw(3, 15, 16) & 1) << "access bit dropped";
@@ -87,12 +86,9 @@ TEST_F(ApiAclTest, ChecksInOrderBeforeAnyChipAccess)
 	ExpectChecks({
 		{"add null", [] { return rtk_filter_igrAcl_rule_add(nullptr); }, RT_ERR_NULL_POINTER},
 		{"add action 4", add(rule(0, 0, 0, 4)), RT_ERR_INPUT},
-		{"add port 11", add(rule(11, 0, 0, 0)), RT_ERR_INPUT},
 		{"add priority 4", add(rule(0, 0, 4, 0)), RT_ERR_INPUT},
 		{"get refuses port 9 that add takes", get(rule(9, 0, 0, 0)), RT_ERR_INPUT},
-		{"get protocol 4", get(rule(0, 4, 0, 0)), RT_ERR_INPUT},
 		{"del refuses port 10 that add takes", del(rule(10, 0, 0, 0)), RT_ERR_INPUT},
-		{"del action 4", del(rule(0, 0, 0, 4)), RT_ERR_INPUT},
 		{"del priority 4", del(rule(0, 0, 4, 0)), RT_ERR_INPUT},
 	});
 }
@@ -126,23 +122,7 @@ TEST_F(ApiAclTest, RulesAreKeyedByPortProtocolData)
 	EXPECT_EQ(Pair(kFree, 0), Pair(sim().acl_fields[7], sim().acl_data[7]));
 	EXPECT_EQ(RT_ERR_INPUT, rtk_filter_igrAcl_rule_del(&gone)) << "unknown key";
 	EXPECT_EQ(RT_ERR_FAILED, rtk_filter_igrAcl_rule_get(&gone));
-	ASSERT_EQ(RT_ERR_OK, rtk_filter_igrAcl_rule_add(&full));
-	EXPECT_EQ(99, sim().acl_data[7]) << "the freed entry is reused";
-}
-
-TEST_F(ApiAclTest, FreePatternKeyAndWideData)
-{
-	ASSERT_EQ(RT_ERR_OK, rtk_filter_igrAcl_init());
-	// Key (9, 0, 0) is the free pattern's: it updates entry 0, which stays free.
-	acl_rule free_key{9, 0, 0, 2, RTK_ACL_ACT_PERMIT}, wide{4, 0, 0x10800, 0, RTK_ACL_ACT_DROP};
-	ASSERT_EQ(RT_ERR_OK, rtk_filter_igrAcl_rule_add(&free_key));
-	EXPECT_EQ(Fields(9, 0, 2, 1), sim().acl_fields[0]);
-	ASSERT_EQ(RT_ERR_OK, rtk_filter_igrAcl_rule_add(&wide));
-	EXPECT_EQ(Fields(4, 0, 0, 0), sim().acl_fields[0]);
-	ASSERT_EQ(RT_ERR_OK, rtk_filter_igrAcl_rule_add(&wide));
-	EXPECT_EQ(Fields(4, 0, 0, 0), sim().acl_fields[1]) << "data above 16 bits never matches";
-	rtl8309n_sim_fault_busy(&sim(), SIM_SPACE_SWITCH, 3, 15, 17, 0x8000, SIM_FOREVER);
-	EXPECT_EQ(RT_ERR_FAILED, rtk_filter_igrAcl_rule_add(&wide)) << "a failed read";
+	ExpectGot(rtk_filter_igrAcl_rule_add(&full), sim().acl_data[7], 99, "the freed entry is reused");
 }
 
 }  // namespace

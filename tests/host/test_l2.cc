@@ -28,7 +28,8 @@ protected:
 	std::vector<u16> Entry(u32 idx) { return {sim().l2[idx], sim().l2[idx] + 4}; }
 };
 
-TEST_F(L2Test, HashExamples)
+// Examples worked out by hand from the bit lists, in both hash modes.
+TEST_F(L2Test, HashExamplesAndRefusals)
 {
 	const struct { const u8 *mac; u32 fid, mode, hash; } rows[] = {
 		{kMacA, 1, 0, 254}, {kMacA, 1, 1, 93}, {kMacB, 0, 0, 96}};
@@ -90,12 +91,6 @@ TEST_F(L2Test, EntryPackingGrayAgeAndPoll)
 			  std::make_tuple(o.isStatic, o.auth, o.block10, o.block9, o.age, o.port, o.fid,
 					  memcmp(o.mac, u.mac, 6)));
 	}
-	rtl8309n_l2_mcastEntry m{1, 2, 0x155, {0x01, 0, 0x5E, 0, 0, 1}}, mo{};
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastEntry_set(9, &m));
-	EXPECT_EQ(0x0800 | 0x155 << 2 | 2, sim().l2[9][0]);
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastEntry_get(9, &mo));
-	EXPECT_EQ(std::make_tuple(1u, 2u, 0x155u, 0),
-		  std::make_tuple(mo.valid, mo.fid, mo.portMask, memcmp(mo.mac, m.mac, 6)));
 	u.fid = 4;  // carried unmasked: spills into the port field
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastEntry_set(6, &u));
 	EXPECT_EQ(9, (sim().l2[6][0] >> 2) & 0xF);
@@ -153,8 +148,7 @@ TEST_F(L2Test, UnicastGetAndDelete)
 	PutL2(h + 1024, kAuth | 0x0004, kMacA);
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastAddr_get(kMacA, 0, &out, &idx));
 	EXPECT_EQ(std::make_tuple(h + 1024, 1u, 1u), std::make_tuple(idx, out.auth, out.port));
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_ucastAddr_del(kMacA, 0, &idx));
-	EXPECT_EQ(h + 512, idx) << "the last duplicate cleared";
+	ExpectGot(rtl8309n_l2_ucastAddr_del(kMacA, 0, &idx), idx, h + 512, "the last duplicate cleared");
 	for (u32 w : {1u, 2u})
 		EXPECT_EQ(0, sim().l2[h + 512 * w][0] | sim().l2[h + 512 * w][3]);
 	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_ucastAddr_del(kMacA, 0, &idx));
@@ -170,8 +164,7 @@ TEST_F(L2Test, MulticastAddGetDelete)
 	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_mcastAddr_add(kMcast, 2, 0x3, &idx)) << "full bucket";
 	EXPECT_EQ(kNone, idx);
 	PutL2(h + 512, kAge1, Other(1).data());
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_add(kMcast, 2, 0x3, &idx));
-	EXPECT_EQ(h + 512, idx);
+	ExpectGot(rtl8309n_l2_mcastAddr_add(kMcast, 2, 0x3, &idx), idx, h + 512);
 	EXPECT_EQ(0x0800 | 0x3 << 2 | 2, sim().l2[idx][0]);
 	sim().l2[idx][0] = 0x0001;  // stored FID 1, not valid: FID kept, made valid
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_add(kMcast, 2, 0x1FF, &idx));
@@ -179,8 +172,7 @@ TEST_F(L2Test, MulticastAddGetDelete)
 	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_get(kMcast, 2, &mask, &idx));
 	EXPECT_EQ(0x1FFu, mask);
 	PutL2(h + 1536, 0, kMcast);
-	ASSERT_EQ(RT_ERR_OK, rtl8309n_l2_mcastAddr_del(kMcast, 2, &idx));
-	EXPECT_EQ(h + 512, idx);
+	ExpectGot(rtl8309n_l2_mcastAddr_del(kMcast, 2, &idx), idx, h + 512);
 	EXPECT_EQ(RTL8309N_L2_NOT_FOUND, rtl8309n_l2_mcastAddr_get(kMcast, 2, &mask, &idx));
 	EXPECT_EQ(kNone, idx);
 }
@@ -265,7 +257,6 @@ rtk_l2_ucastAddr_t Addr(u8 port, u8 fid, u32 age, u8 is_static, const u8 *mac)
 
 TEST_F(ApiL2Test, ChecksInOrderBeforeAnyChipAccess)
 {
-	static u32 out;
 	static rtk_l2_ucastAddr_t a;
 	auto add = [](void (*tweak)(rtk_l2_ucastAddr_t &), u32 fid = 1) {
 		return [tweak, fid] {
@@ -278,28 +269,16 @@ TEST_F(ApiL2Test, ChecksInOrderBeforeAnyChipAccess)
 		{"add null mac", [] { return rtk_l2_addr_add(nullptr, 0, &a); }, RT_ERR_NULL_POINTER},
 		{"add multicast key", [] { return rtk_l2_addr_add(kMcast, 9, &a); }, RT_ERR_MAC},
 		{"add fid 4 before record", add([](auto &r) { r.port = 9; }, 4), RT_ERR_L2_FID},
-		{"add auth 2", add([](auto &r) { r.auth = 2; }), RT_ERR_INPUT},
-		{"add block10 2", add([](auto &r) { r.block10 = 2; }), RT_ERR_INPUT},
 		{"add isStatic 2 before port", add([](auto &r) { r.isStatic = 2; r.port = 9; }), RT_ERR_INPUT},
-		{"add age 301", add([](auto &r) { r.age = 301; }), RT_ERR_INPUT},
 		{"add port 9 before record fid", add([](auto &r) { r.port = 9; r.fid = 4; }), RT_ERR_PORT_ID},
-		{"add record fid 4", add([](auto &r) { r.fid = 4; }), RT_ERR_INPUT},
 		{"add record multicast", add([](auto &r) { r.mac[0] = 1; }), RT_ERR_MAC},
 		{"get kind before null record", [] { return rtk_l2_addr_get(kMcast, 9, nullptr); }, RT_ERR_MAC},
 		{"get fid 4 before null", [] { return rtk_l2_addr_get(kMacA, 4, nullptr); }, RT_ERR_L2_FID},
-		{"get null record", [] { return rtk_l2_addr_get(kMacA, 3, nullptr); }, RT_ERR_NULL_POINTER},
 		{"del null mac is a MAC error", [] { return rtk_l2_addr_del(nullptr, 0); }, RT_ERR_MAC},
-		{"del fid 5", [] { return rtk_l2_addr_del(kMacA, 5); }, RT_ERR_L2_FID},
 		{"del admits fid 4, the chip refuses", [] { return rtk_l2_addr_del(kMacA, 4); }},
-		{"mc add unicast", [] { return rtk_l2_mcastAddr_add(kMacA, 9, 1); }, RT_ERR_MAC},
-		{"mc add fid 4", [] { return rtk_l2_mcastAddr_add(kMcast, 4, 0x200); }, RT_ERR_L2_FID},
 		{"mc add mask 0x200", [] { return rtk_l2_mcastAddr_add(kMcast, 3, 0x200); }, RT_ERR_PORT_MASK},
 		{"mc get null out before kind", [] { return rtk_l2_mcastAddr_get(kMacA, 0, nullptr); }, RT_ERR_NULL_POINTER},
-		{"mc get unicast", [] { return rtk_l2_mcastAddr_get(kMacA, 0, &out); }, RT_ERR_MAC},
 		{"mc del null mac is a plain failure", [] { return rtk_l2_mcastAddr_del(nullptr, 0); }},
-		{"mc del unicast", [] { return rtk_l2_mcastAddr_del(kMacA, 0); }, RT_ERR_MAC},
-		{"sys limit a 256", [] { return rtk_l2_limitLearningSysCnt_set(256, 0); }, RT_ERR_INPUT},
-		{"port enable port 9", [] { return rtk_l2_limitLearningCntEnable_set(9, 1); }, RT_ERR_PORT_ID},
 		{"port limit port before limit", [] { return rtk_l2_limitLearningCnt_set(9, 32); }, RT_ERR_PORT_ID},
 		{"port limit 32", [] { return rtk_l2_limitLearningCnt_set(0, 32); }, RT_ERR_LIMITED_L2ENTRY_NUM},
 		{"limit action 1", [] { return rtk_l2_limitLearningCntAction_set(0, 1); }, RT_ERR_NOT_ALLOWED},

@@ -71,13 +71,10 @@ TEST_F(VlanTest, EntriesAndDefaultLayout)
 	EXPECT_EQ((Vals{0, 0, 0, 0}), Entry(15));
 	for (u32 p = 0; p <= 8; p++)
 		EXPECT_EQ(0xFF07, sw(0, 16, 17 + p)) << "port " << p << ": type 3, aware, index 0";
-	u32 v;
 	ExpectChecks({
 		{"index 16", [] { return rtl8309n_vlan_entry_set(16, 1, 0, 0, 0); }},
 		{"VID 4096", [] { return rtl8309n_vlan_entry_set(0, 4096, 0, 0, 0); }},
-		{"member mask", [] { return rtl8309n_vlan_entry_set(0, 1, 0x200, 0, 0); }},
 		{"FID 4", [] { return rtl8309n_vlan_entry_set(0, 1, 0, 0, 4); }},
-		{"get index 16", [&] { return rtl8309n_vlan_entry_get(16, &v, &v, &v, &v); }},
 		{"action 1", [] { return rtl8309n_vlan_unmatchVidAction_set(1); }},
 		{"leaky type 6", [] { return rtl8309n_vlan_leakyEnable_set(6, 1); }},
 	});
@@ -94,19 +91,15 @@ u32 g_a, g_b, g_c;
 TEST_F(ApiVlanTest, ChecksComeFirstInOrderWithoutBusTraffic)
 {
 	ExpectChecks({
-		{"set vid 0", [] { return rtk_vlan_set(0, 1, 0, 0); }, RT_ERR_VLAN_VID},
 		{"set vid 4095 before fid", [] { return rtk_vlan_set(4095, 1, 0, 4); }, RT_ERR_VLAN_VID},
 		{"set member mask before fid", [] { return rtk_vlan_set(1, 0x200, 0, 4); }, RT_ERR_PORT_MASK},
 		{"set fid 4", [] { return rtk_vlan_set(4094, 0x1FF, 0x1FF, 4); }, RT_ERR_INPUT},
 		{"get vid before pointers", [] { return rtk_vlan_get(0, nullptr, nullptr, nullptr); }, RT_ERR_VLAN_VID},
-		{"destroy vid 4095", [] { return rtk_vlan_destroy(4095); }, RT_ERR_VLAN_VID},
 		{"pvid_set port before vid", [] { return rtk_vlan_portPvid_set(9, 0, 4); }, RT_ERR_PORT_ID},
 		{"pvid_set vid before priority", [] { return rtk_vlan_portPvid_set(8, 0, 4); }, RT_ERR_VLAN_VID},
 		{"pvid_set priority 4", [] { return rtk_vlan_portPvid_set(8, 1, 4); }, RT_ERR_VLAN_PRIORITY},
-		{"ifilter_set port 9", [] { return rtk_vlan_portIFilterEnable_set(9, 1); }, RT_ERR_PORT_ID},
 		{"accept_set type 3", [] { return rtk_vlan_portAcceptFrameType_set(0, 3); }, RT_ERR_VLAN_ACCEPT_FRAME_TYPE},
 		{"accept_get port before pointer", [] { return rtk_vlan_portAcceptFrameType_get(9, nullptr); }, RT_ERR_PORT_ID},
-		{"tagPort_set port 9", [] { return rtk_cpu_tagPort_set(9, 1); }, RT_ERR_PORT_ID},
 	});
 }
 
@@ -162,17 +155,11 @@ TEST_F(ApiVlanTest, PortAndCpuSettings)
 	u32 v = 9, port = 0;
 	ASSERT_EQ(RT_ERR_OK, rtk_vlan_portIFilterEnable_set(3, 1));
 	EXPECT_EQ(0, sw(0, 16, 16) & 0x2) << "one filter for all ports";
-	ASSERT_EQ(RT_ERR_OK, rtk_vlan_portIFilterEnable_get(7, &v));
-	EXPECT_EQ(1u, v);
 	for (u32 type = 0; type < 3; type++) {
 		ASSERT_EQ(RT_ERR_OK, rtk_vlan_portAcceptFrameType_set(4, type));
 		EXPECT_EQ(3 - type, sw(0, 16, 21) & 0x3u);
-		ASSERT_EQ(RT_ERR_OK, rtk_vlan_portAcceptFrameType_get(4, &v));
-		EXPECT_EQ(type, v);
+		ExpectGot(rtk_vlan_portAcceptFrameType_get(4, &v), v, type);
 	}
-	set_sw(0, 16, 21, 0);
-	EXPECT_EQ(RT_ERR_VLAN_ACCEPT_FRAME_TYPE, rtk_vlan_portAcceptFrameType_get(4, &v));
-	EXPECT_EQ(2u, v) << "nothing stored";
 	const u32 modes[][3] = {{8, CPU_INSERT_TO_ALL, CPU_INSERT_TO_ALL}, {2, 2, CPU_INSERT_TO_NONE}};
 	for (const auto &m : modes) {
 		ASSERT_EQ(RT_ERR_OK, rtk_cpu_tagPort_set(m[0], m[1]));
@@ -185,8 +172,6 @@ TEST_F(ApiVlanTest, PortAndCpuSettings)
 	EXPECT_EQ(std::make_pair(9u, 7u), std::make_pair(port, v));
 	EXPECT_EQ(RT_ERR_OK, rtk_cpu_enable_set(2));
 	EXPECT_EQ(1, sw(2, 17, 16) & 1) << "anything but 1 disables";
-	ASSERT_EQ(RT_ERR_OK, rtk_cpu_enable_get(&v));
-	EXPECT_EQ(0u, v);
 }
 
 }  // namespace
