@@ -78,8 +78,7 @@ struct rtl8304_state {
 	struct rtl8304_vlan_state vlan[RTL8304_NUM_VLANS];
 	char buf[32];
 
-	/*
-	 * The fixup hands addresses 0, 3 and 8 of one bus to this driver, so
+	/* The fixup hands addresses 0, 3 and 8 of one bus to this driver, so
 	 * one chip is probed three times.  The first probe sets the board up
 	 * and later probes of the same bus share it; the last remove tears
 	 * it down.
@@ -146,8 +145,7 @@ static u32 rtl8304_chip_mask(u32 mask)
 
 /* ---- SMI bridge ---- */
 
-/*
- * The register layer calls these with rtl8304_lock held.  Before
+/* The register layer calls these with rtl8304_lock held.  Before
  * config_init has stored the bus nothing is sent: writes fail with -ENODEV
  * and reads yield 0, so that no busy-bit poll above can spin on garbage.
  * Addresses are bounded because mdiobus_*() index their statistics by them.
@@ -178,6 +176,7 @@ static int rtl8304_smiRead(u32 phyad, u32 regad, u32 *value)
 
 /* ---- Board GPIOs ---- */
 
+/* Linux 6.2 dropped of_get_named_gpio_flags(); without flags it is the same lookup. */
 static int rtl8304_get_gpio(struct device_node *np, const char *prop)
 {
 #if LINUX_VERSION_CODE < KERNEL_VERSION(6, 2, 0)
@@ -247,26 +246,40 @@ static void rtl8304_free_gpios(void)
 
 /* ---- Configuration apply and reset ---- */
 
-static void rtl8304_apply(struct switch_dev *dev)
+/* Every VLAN the apply step programs uses this filtering database. */
+#define RTL8304_APPLY_FID	1
+/* Tag insert/remove mode of the framework's ports after an apply.  What
+ * the chip does with each of its four modes is not documented to us; the
+ * board has always run in mode 2.
+ */
+#define RTL8304_APPLY_TAG_MODE	2
+
+/* "bridge mode": one VLAN with the board's ports as untagged members. */
+#define RTL8304_BRIDGE_VID	1234
+#define RTL8304_BRIDGE_FID	3
+
+/* Opening of both ways of programming the chip (apply and "bridge mode"):
+ * the VLAN block and the ACL table back to their defaults, with @cpu_port
+ * as the CPU port and CPU tags inserted.  rtk_qos_init(0) fails without a
+ * write; it is kept for the queue set-up it stands for.
+ */
+static void rtl8304_chip_restart(u32 cpu_port)
 {
-	struct rtl8304_state *state = to_rtl8304(dev);
-	int ports = min_t(unsigned int, dev->ports, RTL8304_NUM_PORTS);
-	int vlans = min_t(unsigned int, dev->vlans, RTL8304_NUM_VLANS);
-	int i, p;
-
-	lockdep_assert_held(&rtl8304_lock);
-
-	for (p = 0; p < ports; p++)
-		rtk_stat_port_reset(rtl8304_port_map[p]);
 	rtk_qos_init(0);
-	/* The CPU-port enable bit is inverted: clearing it turns the port on. */
-	rtl8309n_regbit_set(2, 16, 0, 17, 0);
-	if (dev->cpu_port <= RTL8309N_MAX_PORT)
-		rtl8309n_cpu_port_set(dev->cpu_port, 1);
+	rtl8309n_cpu_enable_set(RTL8309N_ENABLED);
+	if (cpu_port <= RTL8309N_MAX_PORT)
+		rtl8309n_cpu_port_set(cpu_port, 1);
 	rtl8309n_vlan_init();
 	rtk_filter_igrAcl_init();
+}
 
-	/* The highest VLAN that has a port as untagged member names its PVID. */
+/* Port state from the VLANs: the highest VLAN that has a port as untagged
+ * member names its PVID; port-based VLANs collect their members' masks.
+ */
+static void rtl8304_derive_ports(struct rtl8304_state *state, int ports, int vlans)
+{
+	int i, p;
+
 	for (i = 1; i < vlans; i++) {
 		struct rtl8304_vlan_state *v = &state->vlan[i];
 
@@ -281,8 +294,13 @@ static void rtl8304_apply(struct switch_dev *dev)
 			}
 		}
 	}
+}
 
-	/* Port-based VLANs stay out of the 802.1Q table. */
+/* 802.1Q VLANs; port-based ones stay out of the chip's table. */
+static void rtl8304_program_vlans(struct rtl8304_state *state, int vlans)
+{
+	int i;
+
 	for (i = 1; i < vlans; i++) {
 		struct rtl8304_vlan_state *v = &state->vlan[i];
 		u32 member, tagged;
@@ -291,8 +309,14 @@ static void rtl8304_apply(struct switch_dev *dev)
 			continue;
 		member = rtl8304_chip_mask(v->ports);
 		tagged = rtl8304_chip_mask(v->tagged);
-		rtk_vlan_set(v->vid, member, member & ~tagged & RTL8309N_PORT_MASK_ALL, 1);
+		rtk_vlan_set(v->vid, member, member & ~tagged & RTL8309N_PORT_MASK_ALL,
+			     RTL8304_APPLY_FID);
 	}
+}
+
+static void rtl8304_program_pvids(struct rtl8304_state *state, int ports)
+{
+	int p;
 
 	for (p = 0; p < ports; p++) {
 		u16 pvid = state->port[p].pvid;
@@ -300,10 +324,33 @@ static void rtl8304_apply(struct switch_dev *dev)
 		if (pvid >= 1 && pvid <= 4094)
 			rtk_vlan_portPvid_set(rtl8304_port_map[p], pvid, 0);
 	}
-	/* Inverted ingress-filter bit: clearing it turns filtering on. */
-	rtl8309n_regbit_set(0, 16, 1, 16, 0);
+}
+
+static void rtl8304_set_tag_modes(int ports)
+{
+	int p;
+
 	for (p = 0; p < ports; p++)
-		rtl8309n_vlan_tagInsertRemove_set(rtl8304_port_map[p], 2);
+		rtl8309n_vlan_tagInsertRemove_set(rtl8304_port_map[p], RTL8304_APPLY_TAG_MODE);
+}
+
+static void rtl8304_apply(struct switch_dev *dev)
+{
+	struct rtl8304_state *state = to_rtl8304(dev);
+	int ports = min_t(unsigned int, dev->ports, RTL8304_NUM_PORTS);
+	int vlans = min_t(unsigned int, dev->vlans, RTL8304_NUM_VLANS);
+	int p;
+
+	lockdep_assert_held(&rtl8304_lock);
+
+	for (p = 0; p < ports; p++)
+		rtk_stat_port_reset(rtl8304_port_map[p]);
+	rtl8304_chip_restart(dev->cpu_port);
+	rtl8304_derive_ports(state, ports, vlans);
+	rtl8304_program_vlans(state, vlans);
+	rtl8304_program_pvids(state, ports);
+	rtl8309n_vlan_igrFilterEnable_set(RTL8309N_ENABLED);
+	rtl8304_set_tag_modes(ports);
 }
 
 static int rtl_hw_apply(struct switch_dev *dev)
@@ -349,8 +396,7 @@ static int rtl_reset(struct switch_dev *dev)
 
 /* ---- Switch-configuration device ---- */
 
-/*
- * The handlers below change only the soft configuration (apart from the
+/* The handlers below change only the soft configuration (apart from the
  * port-link pair); they take rtl8304_lock because the console reads the
  * same record.  swconfig validates port and VLAN indexes against the
  * device before calling, the bounds checks here only keep a stray caller
@@ -562,8 +608,7 @@ out:
 	return 0;
 }
 
-/*
- * Straight to the PHY's control register.  The autonegotiation request sets
+/* Straight to the PHY's control register.  The autonegotiation request sets
  * only the reset bit and the 100 Mbit/s request carries it too: these are
  * the values the chip's PHYs want.
  */
@@ -692,19 +737,19 @@ static void rtl8304_cmd_show_vlan(const int *arg)
 /* The apply sequence with a fixed layout: ports 0, 3, 8 untagged in 1234. */
 static void rtl8304_cmd_bridge_mode(const int *arg)
 {
-	rtk_stat_port_reset(0);
-	rtk_stat_port_reset(3);
-	rtk_stat_port_reset(8);
-	rtk_qos_init(0);
-	rtl8309n_regbit_set(2, 16, 0, 17, 0);
-	rtl8309n_cpu_port_set(8, 1);
-	rtl8309n_vlan_init();
-	rtk_filter_igrAcl_init();
-	rtk_vlan_set(1234, 0x109, 0x109, 3);
-	rtk_vlan_portPvid_set(0, 1234, 0);
-	rtk_vlan_portPvid_set(3, 1234, 0);
-	rtk_vlan_portPvid_set(8, 1234, 0);
-	rtl8309n_regbit_set(0, 16, 1, 16, 0);
+	static const u8 board_ports[] = { 0, 3, RTL8304_CPU_PORT };
+	u32 mask = 0;
+	int i;
+
+	for (i = 0; i < ARRAY_SIZE(board_ports); i++) {
+		rtk_stat_port_reset(board_ports[i]);
+		mask |= BIT(board_ports[i]);
+	}
+	rtl8304_chip_restart(RTL8304_CPU_PORT);
+	rtk_vlan_set(RTL8304_BRIDGE_VID, mask, mask, RTL8304_BRIDGE_FID);
+	for (i = 0; i < ARRAY_SIZE(board_ports); i++)
+		rtk_vlan_portPvid_set(board_ports[i], RTL8304_BRIDGE_VID, 0);
+	rtl8309n_vlan_igrFilterEnable_set(RTL8309N_ENABLED);
 }
 
 static void rtl8304_cmd_set_pvid(const int *arg)
@@ -828,8 +873,7 @@ static bool rtl8304_make_mac(const int *arg, u8 *mac)
 	return !rtl8309n_mac_is_mcast(mac);
 }
 
-/*
- * The fid typed by the user is not used: the entry goes to FID 0.  The L2
+/* The fid typed by the user is not used: the entry goes to FID 0.  The L2
  * record carries the MAC itself so that the authorisation below finds it.
  */
 static void rtl8304_cmd_set_auth(const int *arg)
@@ -838,9 +882,9 @@ static void rtl8304_cmd_set_auth(const int *arg)
 	u8 mac[6];
 
 	pr_info("set auth port: %d, fid: %d, mac1: %x, mac2: %x\n", arg[0], 0, arg[2], arg[3]);
-	rtl8309n_regbit_set(0, 16, 1, 15, 1);
+	rtl8309n_dot1x_macBased_set(RTK_DOT1X_DIRECTION_IN);
 	if ((u32)arg[0] <= RTL8309N_MAX_PORT)
-		rtl8309n_regbit_set(arg[0], 16, 3, 3, 1);
+		rtl8309n_dot1x_macBasedEnable_set(arg[0], RTL8309N_ENABLED);
 	if (rtl8304_make_mac(arg, mac)) {
 		memset(&entry, 0, sizeof(entry));
 		entry.auth = 1;
@@ -881,8 +925,7 @@ static void rtl8304_cmd_get_mib(const int *arg)
 	pr_info("cntVal[0]: %x, cntVal[1]: %x\n", cnt[0], cnt[1]);
 }
 
-/*
- * A command without arguments matches as a prefix of its full text; one
+/* A command without arguments matches as a prefix of its full text; one
  * with arguments when sscanf fills all of them.
  */
 struct rtl8304_cmd {
@@ -969,18 +1012,10 @@ out:
 	return ret;
 }
 
-#if LINUX_VERSION_CODE >= KERNEL_VERSION(5, 6, 0)
 static const struct proc_ops rtl8304_proc_fops = {
 	.proc_read = rtl8304_proc_read,
 	.proc_write = rtl8304_proc_write,
 };
-#else
-static const struct file_operations rtl8304_proc_fops = {
-	.owner = THIS_MODULE,
-	.read = rtl8304_proc_read,
-	.write = rtl8304_proc_write,
-};
-#endif
 
 /* ---- PHY driver ---- */
 
@@ -1110,8 +1145,7 @@ static int rtl8304_read_status(struct phy_device *phydev)
 	return 0;
 }
 
-/*
- * The last of the chip's bound addresses to go undoes the whole board
+/* The last of the chip's bound addresses to go undoes the whole board
  * setup: switch device, /proc entry, GPIOs and state.  swconfig and /proc
  * wait for their running handlers, which take rtl8304_lock, so both are
  * torn down without holding it.
@@ -1157,9 +1191,7 @@ static struct phy_driver rtl8304_driver = {
 /* Addresses 0, 3 and 8 are the chip's copper ports and its CPU port. */
 static int rtl8304_fixup(struct phy_device *phydev)
 {
-	int addr = phydev->mdio.addr;
-
-	if ((addr & ~8) == 0 || addr == 3)
+	if (rtl8304_board_port(phydev->mdio.addr))
 		phydev->phy_id = RTL8304_PHY_ID;
 	return 0;
 }
@@ -1175,8 +1207,7 @@ static int rtl8304_read_model(struct device_node *np, u8 *buf, size_t size, size
 	return 0;
 }
 
-/*
- * Board model from the device tree.  Known models are compared by prefix
+/* Board model from the device tree.  Known models are compared by prefix
  * with growing read lengths; an unknown model of six or more bytes counts
  * as supported (code 0).
  */
@@ -1223,8 +1254,7 @@ static int get_platform(void)
 	return code;
 }
 
-/*
- * An unsupported board loads the module idle (status 0): nothing is
+/* An unsupported board loads the module idle (status 0): nothing is
  * registered, and unloading it repeats the platform check and its message.
  */
 static int __init rtl_init(void)
@@ -1257,8 +1287,7 @@ static void __exit rtl_exit(void)
 	}
 
 	phy_driver_unregister(&rtl8304_driver);
-	/*
-	 * The PHY layer removes the first wildcard fixup of this bus id; no
+	/* The PHY layer removes the first wildcard fixup of this bus id; no
 	 * other driver on this board registers one.
 	 */
 	if (rtl8304_fixup_registered)
