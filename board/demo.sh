@@ -9,7 +9,7 @@
 
 step() { echo; echo "=== $*"; }
 show() { echo "# $*"; "$@" 2>&1 | sed 's/^/  /'; }
-klog() { klog_new | grep -v 'swconfig-test: >' | sed 's/^/  kernel: /'; klog_mark; }
+klog() { klog_new | grep -vE 'swconfig-test: [a-z]*> ' | sed 's/^/  kernel: /'; klog_mark; }
 swc() {
 	local a line="# swconfig"
 	for a in "$@"; do
@@ -74,8 +74,12 @@ klog
 
 step "The chip's VLAN table as the board sees it (chip ports 0..8)"
 grep -vE 'vid +0 ' "$BOARD_DBG/vlan" | sed 's/^/  /'
-swc dev RTL8304MB port 1 get pvid
+swc dev RTL8304MB port 1 show
+
+step "Port mask: declared an integer, so swconfig shows a number (bits of a kernel address)"
 swc dev RTL8304MB port 0 get mask
+echo "# the driver's text, through the stand-in's test-only path (no swconfig equivalent)"
+sw_text dev RTL8304MB port 0 get mask | sed 's/^/  /'
 
 step "Maintenance console"
 console "show all vlan"

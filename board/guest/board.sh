@@ -7,6 +7,7 @@
 
 BOARD_DBG=/sys/kernel/debug/rtl8304-board
 SWCMD=/sys/kernel/debug/swconfig-test/cmd
+SWTEXT=/sys/kernel/debug/swconfig-test/string
 BOARD_FAILS=0
 
 have_driver() { [ -f /modules/rtl8304.ko ]; }
@@ -28,12 +29,35 @@ board_unload() {
 	rmmod swconfig_test
 }
 
-# sw WORDS...: one swconfig command ("dev RTL8304MB port 0 get link"); prints
-# the answer, fails with the command.
-sw() {
-	local rc=0
-	echo "$*" 2>/dev/null >"$SWCMD" || rc=1
-	cat "$SWCMD"
+# sw WORDS...: one swconfig command through the framework stand-in
+# ("dev RTL8304MB port 0 get link"); prints the answer as the tool prints it.
+# A failed command's answer ends with a line "error -N" and sw fails.
+sw() { sw_file "$SWCMD" "$@"; }
+
+# sw_text WORDS...: "dev DEV [port N | vlan N] get KEY" through the stand-in's
+# test-only path: the text the handler left in value.s (the driver's port
+# "mask"), which the real framework never shows: it answers "mask" as a number.
+sw_text() { sw_file "$SWTEXT" "$@"; }
+
+# sw_line WORDS...: sw's answer on one line, its lines joined by ";", for
+# tables of expected answers; SW_GET_EINVAL and SW_SET_EINVAL are a get and
+# a set that the framework or the driver refused with -EINVAL.
+sw_line() { sw "$@" | tr '\n' ';' | sed 's/;$//'; }
+SW_GET_EINVAL="Failed to get attribute: Invalid argument;error -22"
+SW_SET_EINVAL="Failed to set attribute: Invalid argument;error -22"
+
+sw_file() {
+	local f=$1 err ans rc=0
+	shift
+	# The answer tells why a command failed; the shell's own message
+	# matters only when there is no answer.
+	err=$(echo "$*" 2>&1 >"$f") || rc=1
+	ans=$(cat "$f")
+	if [ -n "$ans" ]; then
+		echo "$ans"
+	elif [ -n "$err" ]; then
+		echo "$err" >&2
+	fi
 	return $rc
 }
 

@@ -3,7 +3,8 @@
  * A tiny switch for board tests of the switch-framework stand-in: device
  * "dummy" with 4 ports, 4 VLAN slots and CPU port 3, whose settings live in
  * memory.  Port 0 has a 100 Mbit/s full-duplex autonegotiated link, the
- * others none until a "link" is set on them.
+ * others none until a "link" is set on them.  fault=noalias or fault=noops
+ * registers it without that field, for the stand-in to refuse.
  */
 #include <linux/module.h>
 #include <linux/switch.h>
@@ -20,6 +21,10 @@ static struct dummy {
 	unsigned int n_members[DUMMY_VLANS];
 	char name[16];
 } dummy;
+
+static char *fault = "";
+module_param(fault, charp, 0444);
+MODULE_PARM_DESC(fault, "register without a field: noalias or noops");
 
 static int dummy_get_enable_vlan(struct switch_dev *dev, const struct switch_attr *attr,
 				 struct switch_val *val)
@@ -127,9 +132,9 @@ static const struct switch_dev_ops dummy_ops = {
 
 static int __init dummy_init(void)
 {
-	dummy.dev.ops = &dummy_ops;
+	dummy.dev.ops = strcmp(fault, "noops") ? &dummy_ops : NULL;
 	dummy.dev.name = "dummy";
-	dummy.dev.alias = "dummy";
+	dummy.dev.alias = strcmp(fault, "noalias") ? "dummy" : NULL;
 	dummy.dev.ports = DUMMY_PORTS;
 	dummy.dev.vlans = DUMMY_VLANS;
 	dummy.dev.cpu_port = 3;

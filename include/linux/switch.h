@@ -6,6 +6,9 @@
  *
  * Records, fields and their order are the framework's public interface, so
  * that a driver built against this header works with the framework itself.
+ * That holds only for the same kernel configuration: with
+ * CONFIG_SWCONFIG_LEDS the framework's struct switch_dev is one pointer
+ * longer, and a driver that disagrees has the framework write past it.
  */
 #ifndef _LINUX_SWITCH_H
 #define _LINUX_SWITCH_H
@@ -16,6 +19,7 @@
 #include <linux/netdevice.h>
 
 struct device_node;
+struct switch_led_trigger;
 struct switch_dev;
 struct switch_val;
 struct switch_attr;
@@ -108,7 +112,7 @@ struct switch_dev {
 	char devname[IFNAMSIZ];
 
 	const char *name;
-	/* either alias or netdev must be set */
+	/* must be set: the framework uses it unchecked */
 	const char *alias;
 	struct net_device *netdev;
 
@@ -127,6 +131,11 @@ struct switch_dev {
 	struct switch_port_link linkbuf;
 
 	char buf[128];
+
+#ifdef CONFIG_SWCONFIG_LEDS
+	/* present when the framework is built with LED triggers */
+	struct switch_led_trigger *led_trigger;
+#endif
 };
 
 struct switch_val {
