@@ -32,7 +32,7 @@ static void acl_access(u32 on)
 
 static void acl_cmd_reg_field(u32 lsb, u32 width, u32 value)
 {
-	rtl8309n_field_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_CMD_REG, RTL8309N_ACL_PAGE,
+	rtl8309n_lsb_field_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_CMD_REG, RTL8309N_ACL_PAGE,
 			   lsb, width, value);
 }
 
@@ -77,7 +77,7 @@ s32 rtl8309n_acl_entry_set(u32 index, const acl_entry *entry)
 	acl_cmd_reg_field(RTL8309N_ACL_CMD_INDEX_LSB, RTL8309N_ACL_CMD_INDEX_WIDTH, index);
 	rtl8309n_reg_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_DATA_REG, RTL8309N_ACL_PAGE,
 			 (u16)(entry->data & 0xFFFF));
-	rtl8309n_field_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_FIELDS_REG, RTL8309N_ACL_PAGE, 0,
+	rtl8309n_lsb_field_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_FIELDS_REG, RTL8309N_ACL_PAGE, 0,
 			   RTL8309N_ACL_FIELDS_WIDTH, word);
 	if (acl_command(0) != RT_ERR_OK)
 		return RT_ERR_FAILED;

@@ -142,52 +142,6 @@ s32 rtl8309n_port_macForceLinkExt0_set(u32 mode, const struct rtl8309n_port_macA
 s32 rtl8309n_port_macForceLinkExt0_get(u32 *pmode, struct rtl8309n_port_macAbility *pability);
 s32 rtl8309n_port_macAbilityExt0_get(u32 *pmode, struct rtl8309n_port_macAbility *pstatus);
 
-/* ---- VLAN registers and table (rtl8309n_vlan.c) ---- */
-
-#define RTL8309N_VLAN_ENTRY_NUM		16
-#define RTL8309N_VLAN_MAX_VID		4095
-#define RTL8309N_VLAN_MAX_FID		3
-#define RTL8309N_VLAN_LEAKY_TYPES	6	/* types 0..5; 5 has no bit */
-/* Actions for a VID that matches no entry. */
-#define RTL8309N_VLAN_UNMATCH_ACT_2	2
-#define RTL8309N_VLAN_UNMATCH_ACT_3	3
-
-/* Global control.  Enable setters take exactly 1 as enable. */
-s32 rtl8309n_vlan_enable_set(s32 enabled);
-s32 rtl8309n_vlan_enable_get(u32 *penabled);
-s32 rtl8309n_vlan_igrFilterEnable_set(s32 enabled);
-s32 rtl8309n_vlan_igrFilterEnable_get(u32 *penabled);
-s32 rtl8309n_vlan_unmatchVidAction_set(u32 action);
-s32 rtl8309n_vlan_unmatchVidAction_get(u32 *paction);
-s32 rtl8309n_vlan_leakyEnable_set(u32 type, u32 enabled);
-s32 rtl8309n_vlan_leakyEnable_get(u32 type, u32 *penabled);
-s32 rtl8309n_vlan_fixMcastFidEnable_set(s32 enabled);
-s32 rtl8309n_vlan_fixMcastFidEnable_get(u32 *penabled);
-s32 rtl8309n_vlan_fixMcastFid_set(u32 fid);
-s32 rtl8309n_vlan_fixMcastFid_get(u32 *pfid);
-/* Per port 0..8. */
-s32 rtl8309n_vlan_portAcceptFrameType_set(u32 port, u32 type);
-s32 rtl8309n_vlan_portAcceptFrameType_get(u32 port, u32 *ptype);
-s32 rtl8309n_vlan_tagAwareEnable_set(u32 port, u32 enabled);
-s32 rtl8309n_vlan_tagAwareEnable_get(u32 port, u32 *penabled);
-s32 rtl8309n_vlan_discardNonPvidPktEnable_set(u32 port, u32 enabled);
-s32 rtl8309n_vlan_discardNonPvidPktEnable_get(u32 port, u32 *penabled);
-s32 rtl8309n_vlan_portPvidIndex_set(u32 port, u32 index);
-s32 rtl8309n_vlan_portPvidIndex_get(u32 port, u32 *pindex);
-s32 rtl8309n_vlan_nullVidReplaceEnable_set(u32 port, u32 enabled);
-s32 rtl8309n_vlan_nullVidReplaceEnable_get(u32 port, u32 *penabled);
-s32 rtl8309n_vlan_tagInsertRemove_set(u32 port, u32 mode);
-s32 rtl8309n_vlan_tagInsertRemove_get(u32 port, u32 *pmode);
-s32 rtl8309n_vlan_igrPortTagInsertEnable_set(u32 port, u32 enabled);
-s32 rtl8309n_vlan_igrPortTagInsertEnable_get(u32 port, u32 *penabled);
-s32 rtl8309n_vlan_igrPortTagInsert_set(u32 port, u32 portmask);
-s32 rtl8309n_vlan_igrPortTagInsert_get(u32 port, u32 *pportmask);
-/* Table entry 0..15; VID 0 marks a free entry. */
-s32 rtl8309n_vlan_entry_set(u32 index, u32 vid, u32 mbrmsk, u32 untagmsk, u32 fid);
-s32 rtl8309n_vlan_entry_get(u32 index, u32 *pvid, u32 *pmbrmsk, u32 *puntagmsk, u32 *pfid);
-/* Every port in VLAN 1 (entry 0), other entries free, filtering off, VLAN on. */
-s32 rtl8309n_vlan_init(void);
-
 /* ---- CPU port and CPU tag (rtl8309n_cpu.c) ---- */
 
 #define RTL8309N_CPU_PORT_NONE		9	/* port number meaning "no CPU port" */
@@ -622,5 +576,28 @@ s32 rtl8309n_wkp_frameEnable_set(u32 enabled, u32 portmask1, u32 portmask2, u32 
 s32 rtl8309n_wkp_frameEnable_get(u32 *pEnabled, u32 *pPortmask1, u32 *pPortmask2,
 				 u32 *pFlag1, u32 *pFlag2);
 s32 rtl8309n_wkp_frameStatus_get(u32 *pStatus);
+
+/*
+ * One header per chip block: its registers, with each register's fields
+ * as masks under it, and its operations.
+ */
+#include "rtl8309n_reg.h"
+#include "rtl8309n_switch.h"
+#include "rtl8309n_port.h"
+#include "rtl8309n_vlan.h"
+#include "rtl8309n_cpu.h"
+#include "rtl8309n_qos_pri.h"
+#include "rtl8309n_qos_bw.h"
+#include "rtl8309n_acl.h"
+#include "rtl8309n_mib.h"
+#include "rtl8309n_mirror.h"
+#include "rtl8309n_l2.h"
+#include "rtl8309n_stp_dot1x.h"
+#include "rtl8309n_trap.h"
+#include "rtl8309n_intr_storm.h"
+#include "rtl8309n_rldp.h"
+#include "rtl8309n_isp.h"
+#include "rtl8309n_led.h"
+#include "rtl8309n_wol.h"
 
 #endif /* RTL8309N_ASICDRV_H */

@@ -29,7 +29,7 @@ static const struct rtl8309n_regfield cpu_check_crc = CTRL(RTL8309N_CPU_NO_CRC_B
 static const struct rtl8309n_regfield cpu_insert_mask[] = {
 	{ RTL8309N_CPU_ADDR, RTL8309N_CPU_INSERT_MASK_REG, RTL8309N_CPU_PAGE, 0, 1,
 	  HIGH, RTL8309N_PORT_BIT },
-	RTL8309N_NO_FIELD(RTL8309N_GLOBAL),
+	RTL8309N_REGFIELD_NONE(RTL8309N_GLOBAL),
 };
 
 static const struct rtl8309n_regfield *insert_mask_field(u32 port)

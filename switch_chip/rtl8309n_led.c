@@ -52,7 +52,7 @@ s32 rtl8309n_led_modeBlinkRate_set(u32 mode, u32 rate)
 {
 	if (mode > LED_MODE_MAX || rate > LED_BLINK_MAX)
 		return RT_ERR_FAILED;
-	rtl8309n_field_set(RTL8309N_LED_ADDR, RTL8309N_LED_CTRL_REG, RTL8309N_LED_PAGE,
+	rtl8309n_lsb_field_set(RTL8309N_LED_ADDR, RTL8309N_LED_CTRL_REG, RTL8309N_LED_PAGE,
 			   RTL8309N_LED_MODE_SHIFT, LED_MODE_FIELD_WIDTH,
 			   mode | (rate << RTL8309N_LED_BLINK_SHIFT));
 	return RT_ERR_OK;
@@ -162,7 +162,7 @@ s32 rtl8309n_led_cpu_set(u32 group, u32 value1, u32 value2)
 		return RT_ERR_OK;
 
 	for (i = 0; i < 2; i++)
-		rtl8309n_field_set(RTL8309N_LED_ADDR, led_cpu_reg[i], RTL8309N_LED_PAGE, group * 8,
+		rtl8309n_lsb_field_set(RTL8309N_LED_ADDR, led_cpu_reg[i], RTL8309N_LED_PAGE, group * 8,
 				   8, values[i]);
 	return RT_ERR_OK;
 }
@@ -176,7 +176,7 @@ s32 rtl8309n_led_cpu_get(u32 group, u32 *pValue1, u32 *pValue2)
 		return RT_ERR_FAILED;
 
 	for (i = 0; i < 2; i++)
-		rtl8309n_field_get(RTL8309N_LED_ADDR, led_cpu_reg[i], RTL8309N_LED_PAGE, group * 8,
+		rtl8309n_lsb_field_get(RTL8309N_LED_ADDR, led_cpu_reg[i], RTL8309N_LED_PAGE, group * 8,
 				   8, out[i]);
 	return RT_ERR_OK;
 }

@@ -80,40 +80,6 @@
 #define RTL8309N_EXT0_STATUS_RXPAUSE_REG 22
 #define RTL8309N_EXT0_STATUS_TRUE	0x100
 
-/* ---- VLAN registers and table ---- */
-#define RTL8309N_VLAN_PAGE		16
-/* Global control (0, 16, 16). */
-#define RTL8309N_VLAN_CTRL_ADDR		0
-#define RTL8309N_VLAN_CTRL_REG		16
-#define RTL8309N_VLAN_ENABLE_BIT	0
-#define RTL8309N_VLAN_IGR_FILTER_OFF_BIT 1	/* 1: ingress filtering off */
-#define RTL8309N_VLAN_UNMATCH_ACT_BIT	2	/* 1: action 2, 0: action 3 */
-#define RTL8309N_VLAN_LEAKY_OFF_BIT	3	/* bits 3..7: types 0..4, 1: no leak */
-#define RTL8309N_VLAN_FIXMC_FID_EN_BIT	8
-#define RTL8309N_VLAN_FIXMC_FID_LSB	9	/* bits 10..9 */
-/* Per port p: (0, 17 + p, 16). */
-#define RTL8309N_VLAN_PORT_ADDR		0
-#define RTL8309N_VLAN_PORT_REG		17
-#define RTL8309N_VLAN_ACCEPT_LSB	0	/* bits 1..0 */
-#define RTL8309N_VLAN_TAG_AWARE_BIT	2
-#define RTL8309N_VLAN_DISCARD_NONPVID_BIT 3
-#define RTL8309N_VLAN_PVID_INDEX_LSB	4	/* bits 7..4 */
-/* Per port p: tag control (p, 16, 6). */
-#define RTL8309N_VLAN_TAG_PAGE		6
-#define RTL8309N_VLAN_TAG_REG		16
-#define RTL8309N_VLAN_NULL_VID_BIT	0
-#define RTL8309N_VLAN_TAG_INSREM_LSB	1	/* bits 2..1 */
-#define RTL8309N_VLAN_IGR_INS_EN_BIT	3
-#define RTL8309N_VLAN_IGR_INS_MASK_LSB	7	/* bits 15..7 */
-/* Table entry i: register 16 + i of three SMI addresses. */
-#define RTL8309N_VLAN_ENTRY_REG		16
-#define RTL8309N_VLAN_ENTRY_VID_ADDR	1	/* VID bits 11..0, FID bits 13..12 */
-#define RTL8309N_VLAN_ENTRY_MBR_ADDR	2	/* member mask bits 8..0 */
-#define RTL8309N_VLAN_ENTRY_UNTAG_ADDR	3	/* untag mask bits 8..0 */
-#define RTL8309N_VLAN_ENTRY_FID_SHIFT	12
-#define RTL8309N_VLAN_ENTRY_VID_MASK	0x0FFF
-#define RTL8309N_VLAN_ENTRY_FID_MASK	0x3
-
 /* ---- CPU port and CPU tag ---- */
 #define RTL8309N_CPU_ADDR		2
 #define RTL8309N_CPU_PAGE		17

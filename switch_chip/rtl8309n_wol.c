@@ -16,7 +16,7 @@ static int wkp_bad_flag(u32 value)
 /* Two flags kept side by side in bits 0 and 1 of @regad, one update. */
 static void wkp_pair_set(u32 regad, u32 first, u32 second)
 {
-	rtl8309n_field_set(RTL8309N_WKP_ADDR, regad, RTL8309N_WKP_PAGE, 0, 2,
+	rtl8309n_lsb_field_set(RTL8309N_WKP_ADDR, regad, RTL8309N_WKP_PAGE, 0, 2,
 			   first | (second << 1));
 }
 

@@ -1,0 +1,11 @@
+/* SPDX-License-Identifier: GPL-2.0 */
+/*
+ * RTL8309N acl block: register coordinates and operations.
+ * (Still to be filled in from rtl8309n_regs.h and rtl8309n_asicdrv.h.)
+ */
+#ifndef RTL8309N_ACL_H
+#define RTL8309N_ACL_H
+
+#include "rtl8309n_types.h"
+
+#endif /* RTL8309N_ACL_H */
