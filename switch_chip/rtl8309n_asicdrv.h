@@ -72,16 +72,6 @@ extern rtl8309n_smi_read_fn psmiRead;
 void register_smiwrite(rtl8309n_smi_write_fn fn);
 void register_smiRead(rtl8309n_smi_read_fn fn);
 
-/* ---- Register access primitives ---- */
-s32 rtl8309n_reg_set(u32 phyad, u32 regad, u32 npage, u16 value);
-s32 rtl8309n_reg_get(u32 phyad, u32 regad, u32 npage, u32 *pvalue);
-s32 rtl8309n_regbit_set(u32 phyad, u32 regad, u32 bit, u32 npage, u32 value);
-s32 rtl8309n_regbit_get(u32 phyad, u32 regad, u32 bit, u32 npage, u32 *pvalue);
-s32 rtl8309n_phyReg_set(u32 phyad, u32 regad, u32 npage, u16 value);
-s32 rtl8309n_phyReg_get(u32 phyad, u32 regad, u32 npage, u32 *pvalue);
-s32 rtl8309n_phyRegBit_set(u32 phyad, u32 regad, u32 bit, u32 npage, u32 value);
-s32 rtl8309n_phyRegBit_get(u32 phyad, u32 regad, u32 bit, u32 npage, u32 *pvalue);
-
 /*
  * Block operations follow, one section per source file.  Keep each section
  * in the order of its source file.

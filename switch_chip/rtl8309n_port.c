@@ -13,6 +13,7 @@
 
 s32 rtl8309n_port_phyLinkStatus_get(u32 port, u32 *plinkStatus)
 {
+	const u32 link_bit = rtl8309n_mask_shift(RTL8309N_MII_STATUS_LINK);
 	u32 link = 0;
 
 	if (!plinkStatus || port > RTL8309N_MAX_PHY_PORT)
@@ -23,10 +24,8 @@ s32 rtl8309n_port_phyLinkStatus_get(u32 port, u32 *plinkStatus)
 	 * tells the state now.  The bit accessors refuse PHY 7, which reads
 	 * nothing here and is reported as link down.
 	 */
-	rtl8309n_phyRegBit_get(port, RTL8309N_MII_STATUS, RTL8309N_MII_STATUS_LINK_BIT,
-			       RTL8309N_MII_PAGE, &link);
-	rtl8309n_phyRegBit_get(port, RTL8309N_MII_STATUS, RTL8309N_MII_STATUS_LINK_BIT,
-			       RTL8309N_MII_PAGE, &link);
+	rtl8309n_phyRegBit_get(port, RTL8309N_MII_STATUS, link_bit, RTL8309N_MII_PAGE, &link);
+	rtl8309n_phyRegBit_get(port, RTL8309N_MII_STATUS, link_bit, RTL8309N_MII_PAGE, &link);
 	*plinkStatus = link;
 	return RT_ERR_OK;
 }
@@ -35,7 +34,7 @@ s32 rtl8309n_port_phyLinkStatus_get(u32 port, u32 *plinkStatus)
  * The other MII bits go through the word accessors, which reach PHY 7 and
  * check the port themselves (0..7).
  */
-static s32 mii_bit_get(u32 port, u32 reg, u32 bit, u32 *pvalue)
+static s32 mii_bit_get(u32 port, u32 reg, u32 mask, u32 *pvalue)
 {
 	u32 data = 0;
 	s32 ret;
@@ -45,13 +44,13 @@ static s32 mii_bit_get(u32 port, u32 reg, u32 bit, u32 *pvalue)
 	ret = rtl8309n_phyReg_get(port, reg, RTL8309N_MII_PAGE, &data);
 	if (ret != RT_ERR_OK)
 		return ret;
-	*pvalue = BIT_OF(data, bit);
+	*pvalue = rtl8309n_field_extract(mask, data);
 	return RT_ERR_OK;
 }
 
 s32 rtl8309n_port_phyAutoNegoDone_get(u32 port, u32 *pdone)
 {
-	return mii_bit_get(port, RTL8309N_MII_STATUS, RTL8309N_MII_STATUS_ANDONE_BIT, pdone);
+	return mii_bit_get(port, RTL8309N_MII_STATUS, RTL8309N_MII_STATUS_ANDONE, pdone);
 }
 
 s32 rtl8309n_port_phyLoopback_set(u32 port, u32 enabled)
@@ -62,14 +61,14 @@ s32 rtl8309n_port_phyLoopback_set(u32 port, u32 enabled)
 		return RT_ERR_FAILED;
 
 	rtl8309n_phyReg_get(port, RTL8309N_MII_CTRL, RTL8309N_MII_PAGE, &data);
-	data &= ~(1u << RTL8309N_MII_CTRL_LOOPBACK_BIT);
-	data |= (u32)(enabled == RTL8309N_ENABLED) << RTL8309N_MII_CTRL_LOOPBACK_BIT;
+	data &= ~RTL8309N_MII_CTRL_LOOPBACK;
+	data |= rtl8309n_field_prep(RTL8309N_MII_CTRL_LOOPBACK, enabled == RTL8309N_ENABLED);
 	return rtl8309n_phyReg_set(port, RTL8309N_MII_CTRL, RTL8309N_MII_PAGE, (u16)data);
 }
 
 s32 rtl8309n_port_phyLoopback_get(u32 port, u32 *penabled)
 {
-	return mii_bit_get(port, RTL8309N_MII_CTRL, RTL8309N_MII_CTRL_LOOPBACK_BIT, penabled);
+	return mii_bit_get(port, RTL8309N_MII_CTRL, RTL8309N_MII_CTRL_LOOPBACK, penabled);
 }
 
 /* ---- Learning and isolation, ports 0..8 ---- */

@@ -27,17 +27,17 @@ s32 rtl8309n_asic_init(void)
 
 s32 rtl8309n_phy_reset(u32 phy)
 {
+	const u32 reset_bit = rtl8309n_mask_shift(RTL8309N_MII_CTRL_RESET);
 	u32 busy = 1;
 	u32 count;
 
 	if (phy > RTL8309N_MAX_PHY_PORT)
 		return RT_ERR_FAILED;
 
-	rtl8309n_phyRegBit_set(phy, RTL8309N_MII_CTRL, RTL8309N_MII_CTRL_RESET_BIT,
-			       RTL8309N_MII_PAGE, 1);
+	rtl8309n_phyRegBit_set(phy, RTL8309N_MII_CTRL, reset_bit, RTL8309N_MII_PAGE, 1);
 	for (count = 0; count < PHY_RESET_PASSES; count++) {
-		rtl8309n_phyRegBit_get(phy, RTL8309N_MII_CTRL, RTL8309N_MII_CTRL_RESET_BIT,
-				       RTL8309N_MII_PAGE, &busy);
+		rtl8309n_phyRegBit_get(phy, RTL8309N_MII_CTRL, reset_bit, RTL8309N_MII_PAGE,
+				       &busy);
 		if (!busy)
 			break;
 	}
