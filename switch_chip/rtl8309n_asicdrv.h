@@ -77,22 +77,6 @@ void register_smiRead(rtl8309n_smi_read_fn fn);
  * in the order of its source file.
  */
 
-/* ---- Chip initialisation, PHY reset, maximum packet length (rtl8309n_switch.c) ---- */
-
-/* Maximum frame length modes of the chip. */
-#define RTL8309N_MAXPKTLEN_1518		0
-#define RTL8309N_MAXPKTLEN_USER		1	/* length programmed, 0..4095 */
-#define RTL8309N_MAXPKTLEN_2048		2
-#define RTL8309N_MAXPKTLEN_16000	3
-
-/* Nothing to set up on this chip. */
-s32 rtl8309n_asic_init(void);
-/* Software reset of the embedded PHY @phy (0..7); see the poll notes in the source. */
-s32 rtl8309n_phy_reset(u32 phy);
-/* @len is used by RTL8309N_MAXPKTLEN_USER only (bits 11..0). */
-s32 rtl8309n_switch_maxPktLen_set(u32 type, u32 len);
-s32 rtl8309n_switch_maxPktLen_get(u32 *ptype, u32 *plen);
-
 /* ---- Port MAC and PHY control (rtl8309n_port.c) ---- */
 
 /* Interface modes of the MAC port (port 8); 0 and 1 run at double rate. */

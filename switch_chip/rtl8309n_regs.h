@@ -11,16 +11,6 @@
 #ifndef RTL8309N_REGS_H
 #define RTL8309N_REGS_H
 
-/* ---- Chip initialisation, PHY reset, maximum packet length ---- */
-/* Maximum frame length: mode in (7, 16, 17) bits 7..6, user length in (7, 17, 17). */
-#define RTL8309N_PKTLEN_ADDR		7
-#define RTL8309N_PKTLEN_PAGE		17
-#define RTL8309N_PKTLEN_CTRL_REG	16
-#define RTL8309N_PKTLEN_MODE_LSB	6
-#define RTL8309N_PKTLEN_MODE_WIDTH	2
-#define RTL8309N_PKTLEN_USER_REG	17
-#define RTL8309N_PKTLEN_USER_WIDTH	12	/* bits 11..0 */
-
 /* ---- Port MAC and PHY control ---- */
 /* Per port: SMI address = port. */
 #define RTL8309N_PORT_LEARN_PAGE	5
