@@ -77,45 +77,6 @@ void register_smiRead(rtl8309n_smi_read_fn fn);
  * in the order of its source file.
  */
 
-/* ---- Port MAC and PHY control (rtl8309n_port.c) ---- */
-
-/* Interface modes of the MAC port (port 8); 0 and 1 run at double rate. */
-#define RTL8309N_EXT0_MODE_NUM		6
-
-/* Speeds of the MAC port record; the double rates follow from the mode. */
-#define RTL8309N_PORT_SPEED_10M		0
-#define RTL8309N_PORT_SPEED_20M		1
-#define RTL8309N_PORT_SPEED_100M	2
-#define RTL8309N_PORT_SPEED_200M	3
-
-/*
- * Forced link (or, from rtl8309n_port_macAbilityExt0_get, the status) of the
- * MAC port.  Flags are 1 or 0; nway is not part of the status.
- */
-struct rtl8309n_port_macAbility {
-	u32 speed;	/* RTL8309N_PORT_SPEED_* */
-	u32 duplex;	/* 1: full duplex */
-	u32 link;	/* 1: link up */
-	u32 nway;	/* 1: auto-negotiation, 0: forced */
-	u32 txpause;	/* 1: sends PAUSE frames */
-	u32 rxpause;	/* 1: obeys PAUSE frames */
-};
-
-/* Embedded PHYs, ports 0..7 (PHY 7's link is not read: reported down). */
-s32 rtl8309n_port_phyLinkStatus_get(u32 port, u32 *plinkStatus);
-s32 rtl8309n_port_phyAutoNegoDone_get(u32 port, u32 *pdone);
-s32 rtl8309n_port_phyLoopback_set(u32 port, u32 enabled);
-s32 rtl8309n_port_phyLoopback_get(u32 port, u32 *penabled);
-/* Ports 0..8. */
-s32 rtl8309n_port_MacLearnEnable_set(u32 port, u32 enabled);
-s32 rtl8309n_port_MacLearnEnable_get(u32 port, u32 *penabled);
-s32 rtl8309n_port_isolation_set(u32 port, u32 portmask);
-s32 rtl8309n_port_isolation_get(u32 port, u32 *pportmask);
-/* The MAC port: mode 0..5 and forced link. */
-s32 rtl8309n_port_macForceLinkExt0_set(u32 mode, const struct rtl8309n_port_macAbility *pability);
-s32 rtl8309n_port_macForceLinkExt0_get(u32 *pmode, struct rtl8309n_port_macAbility *pability);
-s32 rtl8309n_port_macAbilityExt0_get(u32 *pmode, struct rtl8309n_port_macAbility *pstatus);
-
 /* ---- CPU port and CPU tag (rtl8309n_cpu.c) ---- */
 
 #define RTL8309N_CPU_PORT_NONE		9	/* port number meaning "no CPU port" */

@@ -11,41 +11,6 @@
 #ifndef RTL8309N_REGS_H
 #define RTL8309N_REGS_H
 
-/* ---- Port MAC and PHY control ---- */
-/* Per port: SMI address = port. */
-#define RTL8309N_PORT_LEARN_PAGE	5
-#define RTL8309N_PORT_LEARN_REG		16
-#define RTL8309N_PORT_LEARN_BIT		0
-#define RTL8309N_PORT_ISO_PAGE		4
-#define RTL8309N_PORT_ISO_REG		16	/* bits 8..0, written whole */
-#define RTL8309N_PORT_ISO_WIDTH		9
-
-/* MAC port 8 ("extension port 0"): interface mode, bits 2..0 of (3, 16, 17). */
-#define RTL8309N_EXT0_MODE_ADDR		3
-#define RTL8309N_EXT0_MODE_REG		16
-#define RTL8309N_EXT0_MODE_PAGE		17
-#define RTL8309N_EXT0_MODE_WIDTH	3
-/* Forced link of the MAC port: low byte of (8, 16, 0); bits 4 and 7 unused. */
-#define RTL8309N_EXT0_FORCE_ADDR	8
-#define RTL8309N_EXT0_FORCE_REG		16
-#define RTL8309N_EXT0_FORCE_PAGE	0
-#define RTL8309N_EXT0_FORCE_WIDTH	8
-#define RTL8309N_EXT0_FORCE_NO_NWAY_BIT	0	/* 1: auto-negotiation off */
-#define RTL8309N_EXT0_FORCE_LINK_BIT	1
-#define RTL8309N_EXT0_FORCE_DUPLEX_BIT	2
-#define RTL8309N_EXT0_FORCE_SPEED_BIT	3	/* 1: 100 (200) Mbit/s */
-#define RTL8309N_EXT0_FORCE_TXPAUSE_BIT	5
-#define RTL8309N_EXT0_FORCE_RXPAUSE_BIT	6
-/* Read-only status of the MAC port: one flag per register, true from 0x100. */
-#define RTL8309N_EXT0_STATUS_ADDR	2
-#define RTL8309N_EXT0_STATUS_PAGE	14
-#define RTL8309N_EXT0_STATUS_LINK_REG	18
-#define RTL8309N_EXT0_STATUS_SPEED_REG	19
-#define RTL8309N_EXT0_STATUS_DUPLEX_REG	20
-#define RTL8309N_EXT0_STATUS_TXPAUSE_REG 21
-#define RTL8309N_EXT0_STATUS_RXPAUSE_REG 22
-#define RTL8309N_EXT0_STATUS_TRUE	0x100
-
 /* ---- CPU port and CPU tag ---- */
 #define RTL8309N_CPU_ADDR		2
 #define RTL8309N_CPU_PAGE		17
