@@ -77,38 +77,6 @@ void register_smiRead(rtl8309n_smi_read_fn fn);
  * in the order of its source file.
  */
 
-/* ---- CPU port and CPU tag (rtl8309n_cpu.c) ---- */
-
-#define RTL8309N_CPU_PORT_NONE		9	/* port number meaning "no CPU port" */
-/* Actions for a CPU tag received on another port. */
-#define RTL8309N_CPU_NONCPU_RXTAG_ACT_0	0
-#define RTL8309N_CPU_NONCPU_RXTAG_ACT_3	3
-
-/* Enable setters take exactly 1 as enable. */
-s32 rtl8309n_cpu_enable_set(s32 enabled);
-s32 rtl8309n_cpu_enable_get(u32 *penabled);
-s32 rtl8309n_cpu_portNumber_set(u32 port);
-s32 rtl8309n_cpu_portNumber_get(u32 *pport);
-s32 rtl8309n_cpu_cpuTagAwareEnable_set(s32 enabled);
-s32 rtl8309n_cpu_cpuTagAwareEnable_get(u32 *penabled);
-s32 rtl8309n_cpu_tagInsertEnable_set(s32 enabled);
-s32 rtl8309n_cpu_tagInsertEnable_get(u32 *penabled);
-s32 rtl8309n_cpu_tagRemoveEnable_set(s32 enabled);
-s32 rtl8309n_cpu_tagRemoveEnable_get(u32 *penabled);
-s32 rtl8309n_cpu_nonCpuPortRxCpuTag_set(u32 action);
-s32 rtl8309n_cpu_nonCpuPortRxCpuTag_get(u32 *paction);
-s32 rtl8309n_cpu_learnEnable_set(s32 enabled);
-s32 rtl8309n_cpu_learnEnable_get(u32 *penabled);
-s32 rtl8309n_cpu_checkCrcEnable_set(s32 enabled);
-s32 rtl8309n_cpu_checkCrcEnable_get(u32 *penabled);
-/* Port 0..9; 9 names no bit: set writes nothing, get reports 0. */
-s32 rtl8309n_cpu_tagInsertMask_set(u32 port, s32 enabled);
-s32 rtl8309n_cpu_tagInsertMask_get(u32 port, u32 *penabled);
-/* The CPU port (9: none) and whether CPU tags are inserted towards it. */
-s32 rtl8309n_cpu_port_get(u32 *pport, u32 *ptag);
-/* Make @port (0..8) the CPU port, with CPU-tag insertion when @tag != 0. */
-s32 rtl8309n_cpu_port_set(u32 port, u32 tag);
-
 /* ---- QoS priority sources, remapping, queues (rtl8309n_qos_pri.c) ---- */
 
 #define RTL8309N_QOS_MAX_PRI		3	/* internal priorities 0..3 */

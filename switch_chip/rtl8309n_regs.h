@@ -11,21 +11,6 @@
 #ifndef RTL8309N_REGS_H
 #define RTL8309N_REGS_H
 
-/* ---- CPU port and CPU tag ---- */
-#define RTL8309N_CPU_ADDR		2
-#define RTL8309N_CPU_PAGE		17
-#define RTL8309N_CPU_CTRL_REG		16
-#define RTL8309N_CPU_DISABLE_BIT	0	/* 1: CPU port function off */
-#define RTL8309N_CPU_PORT_LSB		1	/* bits 4..1; 9: no CPU port */
-#define RTL8309N_CPU_PORT_WIDTH		4
-#define RTL8309N_CPU_TAG_AWARE_BIT	5
-#define RTL8309N_CPU_TAG_INSERT_BIT	6
-#define RTL8309N_CPU_TAG_REMOVE_BIT	7
-#define RTL8309N_CPU_NONCPU_RXTAG_BIT	8	/* 1: action 0, 0: action 3 */
-#define RTL8309N_CPU_LEARN_BIT		9
-#define RTL8309N_CPU_NO_CRC_BIT		10	/* 1: CRC check off */
-#define RTL8309N_CPU_INSERT_MASK_REG	17	/* bit p: tag frames of port p */
-
 /* ---- QoS priority sources, remapping, queues ---- */
 /* QoS soft reset: (0, 16, 14) bit 1, self-clearing. */
 #define RTL8309N_QOS_RESET_ADDR		0
