@@ -187,39 +187,6 @@ s32 rtl8309n_qos_portFlcThr_get(u32 port, u32 *pthr1, u32 *pthr2, u32 type);
 s32 rtl8309n_qos_igrFlcEnable_set(u32 enabled);
 s32 rtl8309n_qos_igrFlcEnable_get(u32 *penabled);
 
-/* ---- ACL table (rtl8309n_acl.c) ---- */
-
-#define RTL8309N_ACL_ENTRY_NUM		16
-#define RTL8309N_ACL_MAX_PORT		10	/* 9 marks a free entry */
-
-/* What the entry's 16-bit data is compared with. */
-#define RTL8309N_ACL_PROTO_ETHERTYPE	0
-#define RTL8309N_ACL_PROTO_TCP_PORT	1
-#define RTL8309N_ACL_PROTO_UDP_PORT	2
-#define RTL8309N_ACL_PROTO_TCPUDP_PORT	3
-
-/*
- * Register-layer action codes of an entry.  Code 1 is a second spelling
- * of drop: it is stored as the chip's drop value and so reads back as 3.
- */
-#define RTL8309N_ACL_ACT_PERMIT		0
-#define RTL8309N_ACL_ACT_DROP_ALT	1
-#define RTL8309N_ACL_ACT_TRAP_CPU	2
-#define RTL8309N_ACL_ACT_DROP		3
-#define RTL8309N_ACL_ACT_MIRROR		4
-#define RTL8309N_ACL_ACT_MAX		4
-
-typedef struct acl_entry {
-	u32 priority;	/* 0..3, internal priority of matching frames */
-	u32 action;	/* RTL8309N_ACL_ACT_* */
-	u32 port;	/* ingress port 0..8; 9 free; 10 accepted */
-	u32 protocol;	/* RTL8309N_ACL_PROTO_* */
-	u32 data;	/* only bits 15..0 reach the chip */
-} acl_entry;
-
-s32 rtl8309n_acl_entry_set(u32 index, const acl_entry *entry);
-s32 rtl8309n_acl_entry_get(u32 index, acl_entry *entry);
-
 /* ---- MIB counters (rtl8309n_mib.c) ---- */
 
 /* Byte counters span identifiers c and c + 1; packet counters are 2..15. */

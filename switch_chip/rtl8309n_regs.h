@@ -91,33 +91,6 @@
 #define RTL8309N_FLC_QUEUE_PORTS_PER_REG 4
 #define RTL8309N_FLC_CPU_QUEUE_OFF_LSB	12	/* port 8: bits 15..12 of register 24 */
 
-/* ---- ACL table ---- */
-#define RTL8309N_ACL_ADDR		3
-#define RTL8309N_ACL_PAGE		15
-#define RTL8309N_ACL_ACCESS_REG		16	/* bit 0: table access enable */
-#define RTL8309N_ACL_ACCESS_BIT		0
-#define RTL8309N_ACL_CMD_REG		17
-#define RTL8309N_ACL_CMD_INDEX_LSB	0	/* bits 3..0: entry index */
-#define RTL8309N_ACL_CMD_INDEX_WIDTH	4
-#define RTL8309N_ACL_CMD_READ_BIT	14	/* 1 read, 0 write */
-#define RTL8309N_ACL_CMD_BUSY_BIT	15	/* start; the chip clears it */
-#define RTL8309N_ACL_DATA_REG		18
-#define RTL8309N_ACL_FIELDS_REG		19	/* bits 15..10 are not ours */
-#define RTL8309N_ACL_FIELDS_WIDTH	10
-#define RTL8309N_ACL_PROTO_LSB		0
-#define RTL8309N_ACL_PROTO_WIDTH	2
-#define RTL8309N_ACL_PORT_LSB		2
-#define RTL8309N_ACL_PORT_WIDTH		4
-#define RTL8309N_ACL_ACT_LSB		6
-#define RTL8309N_ACL_ACT_WIDTH		2
-#define RTL8309N_ACL_PRI_LSB		8
-#define RTL8309N_ACL_PRI_WIDTH		2
-/* Every entry write also sets bits 0, 5, 6 and 7 of (2, 16, 17). */
-#define RTL8309N_ACL_WRITE_ADDR		2
-#define RTL8309N_ACL_WRITE_REG		16
-#define RTL8309N_ACL_WRITE_PAGE		17
-#define RTL8309N_ACL_WRITE_BITS		0x00E1
-
 /* ---- MIB counters ---- */
 #define RTL8309N_MIB_ADDR		4
 #define RTL8309N_MIB_PAGE		15
