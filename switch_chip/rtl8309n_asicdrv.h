@@ -187,28 +187,6 @@ s32 rtl8309n_qos_portFlcThr_get(u32 port, u32 *pthr1, u32 *pthr2, u32 type);
 s32 rtl8309n_qos_igrFlcEnable_set(u32 enabled);
 s32 rtl8309n_qos_igrFlcEnable_get(u32 *penabled);
 
-/* ---- MIB counters (rtl8309n_mib.c) ---- */
-
-/* Byte counters span identifiers c and c + 1; packet counters are 2..15. */
-#define RTL8309N_MIB_TX_BYTES		0
-#define RTL8309N_MIB_RX_BYTES		2
-#define RTL8309N_MIB_PKT_MIN		2
-#define RTL8309N_MIB_PKT_MAX		15
-#define RTL8309N_MIB_BYTE_WORDS		4	/* 16-bit words, word 0 least significant */
-
-s32 rtl8309n_mib_enable_set(u32 enabled);
-/* Delivers the flag but always returns RT_ERR_FAILED. */
-s32 rtl8309n_mib_enable_get(u32 *penabled);
-s32 rtl8309n_mib_start(u32 port);
-s32 rtl8309n_mib_stop(u32 port);
-s32 rtl8309n_mib_overFlowFlag_set(u32 port, u32 flag);
-s32 rtl8309n_mib_overFlowFlag_get(u32 port, u32 *pflag);
-/* @counter is RTL8309N_MIB_TX_BYTES or _RX_BYTES; @value has 4 elements. */
-s32 rtl8309n_mib_byteCnt_get(u32 port, u32 counter, u32 *value);
-s32 rtl8309n_mib_pktCnt_get(u32 port, u32 counter, u32 *value);
-/* Waits without bound for the chip to finish clearing. */
-s32 rtl8309n_mib_reset(u32 port);
-
 /* ---- Port and MAC mirroring (rtl8309n_mirror.c) ---- */
 
 s32 rtl8309n_mirror_selfFilterEnable_set(u32 enabled);

@@ -91,20 +91,6 @@
 #define RTL8309N_FLC_QUEUE_PORTS_PER_REG 4
 #define RTL8309N_FLC_CPU_QUEUE_OFF_LSB	12	/* port 8: bits 15..12 of register 24 */
 
-/* ---- MIB counters ---- */
-#define RTL8309N_MIB_ADDR		4
-#define RTL8309N_MIB_PAGE		15
-#define RTL8309N_MIB_CTRL_REG		16	/* bit p: port p counts */
-#define RTL8309N_MIB_ENABLE_BIT		15	/* global counting */
-#define RTL8309N_MIB_RESET_REG		17	/* bit p: clear port p, self-clearing */
-#define RTL8309N_MIB_SELECT_REG		18
-#define RTL8309N_MIB_SELECT_PORT_SHIFT	4	/* bits 7..4 port, bits 3..0 counter */
-#define RTL8309N_MIB_SELECT_BUSY_BIT	15	/* start; cleared once latched */
-#define RTL8309N_MIB_SELECT_BUSY	0x8000
-#define RTL8309N_MIB_LOW_WORDS_REG	19	/* 19, 20: words of counter c */
-#define RTL8309N_MIB_HIGH_WORDS_REG	21	/* 21, 22: words of counter c + 1 */
-#define RTL8309N_MIB_OVERFLOW_REG	23	/* bit p: port p overflowed */
-
 /* ---- Port and MAC mirroring ---- */
 #define RTL8309N_MIRROR_ADDR		5
 #define RTL8309N_MIRROR_PAGE		15
