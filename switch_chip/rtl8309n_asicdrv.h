@@ -187,18 +187,6 @@ s32 rtl8309n_qos_portFlcThr_get(u32 port, u32 *pthr1, u32 *pthr2, u32 type);
 s32 rtl8309n_qos_igrFlcEnable_set(u32 enabled);
 s32 rtl8309n_qos_igrFlcEnable_get(u32 *penabled);
 
-/* ---- Port and MAC mirroring (rtl8309n_mirror.c) ---- */
-
-s32 rtl8309n_mirror_selfFilterEnable_set(u32 enabled);
-s32 rtl8309n_mirror_selfFilterEnable_get(u32 *penabled);
-s32 rtl8309n_mirror_pauseFrameEnable_set(u32 enabled);
-s32 rtl8309n_mirror_pauseFrameEnable_get(u32 *penabled);
-/* Mask A is chip register 18, mask B register 17; also turns self-filtering on. */
-s32 rtl8309n_mirror_portBased_set(u32 mirport, u32 maskA, u32 maskB);
-s32 rtl8309n_mirror_portBased_get(u32 *pmirport, u32 *pmaskA, u32 *pmaskB);
-s32 rtl8309n_mirror_macBased_set(const u8 *mac, u32 enabled);
-s32 rtl8309n_mirror_macBased_get(u8 *mac, u32 *penabled);
-
 /* ---- L2 address table (rtl8309n_l2.c) ---- */
 
 #define RTL8309N_L2_ENTRY_NUM		2048

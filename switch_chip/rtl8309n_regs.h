@@ -91,20 +91,6 @@
 #define RTL8309N_FLC_QUEUE_PORTS_PER_REG 4
 #define RTL8309N_FLC_CPU_QUEUE_OFF_LSB	12	/* port 8: bits 15..12 of register 24 */
 
-/* ---- Port and MAC mirroring ---- */
-#define RTL8309N_MIRROR_ADDR		5
-#define RTL8309N_MIRROR_PAGE		15
-#define RTL8309N_MIRROR_CTRL_REG	16
-#define RTL8309N_MIRROR_PORT_LSB	0	/* bits 3..0: mirror port */
-#define RTL8309N_MIRROR_PORT_WIDTH	4
-#define RTL8309N_MIRROR_MAC_EN_BIT	4
-#define RTL8309N_MIRROR_SELF_FILTER_BIT	5
-#define RTL8309N_MIRROR_PAUSE_BIT	6
-#define RTL8309N_MIRROR_MASK_B_REG	17	/* bits 8..0 */
-#define RTL8309N_MIRROR_MASK_A_REG	18	/* bits 8..0 */
-#define RTL8309N_MIRROR_MASK_WIDTH	9
-#define RTL8309N_MIRROR_MAC_REG		19	/* 19..21: MAC bytes 0/1, 2/3, 4/5 */
-
 /* ---- L2 address table ---- */
 #define RTL8309N_L2_ADDR		6
 #define RTL8309N_L2_PAGE		15
