@@ -372,16 +372,6 @@ s32 rtl8309n_rldp_protocol_set(u32 protocol);
 s32 rtl8309n_rldp_protocol_get(u32 *pProtocol);
 s32 rtl8309n_rldp_loopStatus_get(u32 *pStatus);
 
-/* ---- ISP / WAN port (rtl8309n_isp.c) ---- */
-s32 rtl8309n_isp_enable_set(u32 enabled);
-s32 rtl8309n_isp_enable_get(u32 *pEnabled);
-/* @pMac: three words, MAC byte 2k in bits 7..0 of word k */
-s32 rtl8309n_isp_mac_set(const u16 *pMac);
-/* @pMac: six bytes */
-s32 rtl8309n_isp_mac_get(u8 *pMac);
-s32 rtl8309n_isp_wanPort_set(u32 port);
-s32 rtl8309n_isp_wanPort_get(u32 *pPort);
-
 /* ---- LEDs and buzzer (rtl8309n_led.c) ---- */
 s32 rtl8309n_led_rstBlinkEnable_set(u32 enabled);
 s32 rtl8309n_led_rstBlinkEnable_get(u32 *pEnabled);

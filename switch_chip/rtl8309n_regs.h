@@ -242,15 +242,6 @@
 #define RTL8309N_RLDP_ATTR12_MASK	0x3
 #define RTL8309N_RLDP_ATTR3_MASK	0xF
 
-/* ---- ISP / WAN port ---- */
-#define RTL8309N_ISP_ADDR		1
-#define RTL8309N_ISP_PAGE		17
-#define RTL8309N_ISP_CTRL_REG		16
-#define RTL8309N_ISP_EN_BIT		0
-#define RTL8309N_ISP_WAN_REG		17
-#define RTL8309N_ISP_WAN_WIDTH		4	/* read back as bits 3..0 */
-#define RTL8309N_ISP_MAC_REG		18	/* 18..20, MAC byte 2k in bits 7..0 */
-
 /* ---- LEDs and buzzer ---- */
 #define RTL8309N_LED_ADDR		1
 #define RTL8309N_LED_PAGE		14
