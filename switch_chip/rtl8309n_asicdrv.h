@@ -392,17 +392,6 @@ s32 rtl8309n_led_rtct_get(u32 *pGroup, u32 *pState, u32 *pResult);
 s32 rtl8309n_led_cpu_set(u32 group, u32 value1, u32 value2);
 s32 rtl8309n_led_cpu_get(u32 group, u32 *pValue1, u32 *pValue2);
 
-/* ---- Wake-up (rtl8309n_wol.c) ---- */
-s32 rtl8309n_wkp_enable_set(u32 enabled1, u32 enabled2);
-s32 rtl8309n_wkp_enable_get(u32 *pEnabled1, u32 *pEnabled2);
-s32 rtl8309n_wkp_linkchngEnable_set(u32 enabled, u32 portmask);
-s32 rtl8309n_wkp_linkchngEnable_get(u32 *pEnabled, u32 *pPortmask);
-s32 rtl8309n_wkp_linkchangeStatus_get(u32 *pStatus);
-s32 rtl8309n_wkp_frameEnable_set(u32 enabled, u32 portmask1, u32 portmask2, u32 flag1, u32 flag2);
-s32 rtl8309n_wkp_frameEnable_get(u32 *pEnabled, u32 *pPortmask1, u32 *pPortmask2,
-				 u32 *pFlag1, u32 *pFlag2);
-s32 rtl8309n_wkp_frameStatus_get(u32 *pStatus);
-
 /*
  * One header per chip block: its registers, with each register's fields
  * as masks under it, and its operations.
