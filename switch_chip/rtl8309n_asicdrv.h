@@ -276,20 +276,6 @@ s32 rtl8309n_l2_sablockAction_get(u32 *paction);
 s32 rtl8309n_l2_dablockAction_set(u32 action);
 s32 rtl8309n_l2_dablockAction_get(u32 *paction);
 
-/* ---- STP and 802.1X (rtl8309n_stp_dot1x.c) ---- */
-s32 rtl8309n_stp_set(u32 port, u32 state);
-s32 rtl8309n_stp_get(u32 port, u32 *pState);
-s32 rtl8309n_dot1x_portBasedEnable_set(u32 port, u32 enabled);
-s32 rtl8309n_dot1x_portBasedEnable_get(u32 port, u32 *pEnabled);
-s32 rtl8309n_dot1x_macBasedEnable_set(u32 port, u32 enabled);
-s32 rtl8309n_dot1x_macBasedEnable_get(u32 port, u32 *pEnabled);
-s32 rtl8309n_dot1x_portBased_set(u32 port, u32 isAuth, u32 direction);
-s32 rtl8309n_dot1x_portBased_get(u32 port, u32 *pIsAuth, u32 *pDirection);
-s32 rtl8309n_dot1x_macBased_set(u32 direction);
-s32 rtl8309n_dot1x_macBased_get(u32 *pDirection);
-s32 rtl8309n_dot1x_unauthPktAction_set(u32 action);
-s32 rtl8309n_dot1x_unauthPktAction_get(u32 *pAction);
-
 /* ---- Traps, reserved multicast, IGMP (rtl8309n_trap.c) ---- */
 /* Packet actions of the register layer (L2, trap and reserved multicast) */
 #define RTL8309N_ACT_FORWARD		0

@@ -140,25 +140,6 @@
 #define RTL8309N_L2_WORD_PMASK_SHIFT	2	/* multicast: bits 10..2 */
 #define RTL8309N_L2_WORD_VALID		0x0800	/* multicast */
 
-/* ---- STP and 802.1X ---- */
-#define RTL8309N_STP_PAGE		2	/* on the port's own address */
-#define RTL8309N_STP_REG		16
-#define RTL8309N_STP_STATE_MASK		0x0003
-#define RTL8309N_STP_STATE_MAX		3	/* highest code the getter reports */
-
-#define RTL8309N_DOT1X_PORT_PAGE	3	/* on the port's own address */
-#define RTL8309N_DOT1X_PORT_REG		16
-#define RTL8309N_DOT1X_PORT_EN_BIT	0
-#define RTL8309N_DOT1X_PORT_AUTH_BIT	1
-#define RTL8309N_DOT1X_PORT_DIR_BIT	2
-#define RTL8309N_DOT1X_MAC_EN_BIT	3
-
-#define RTL8309N_DOT1X_GLB_ADDR		0
-#define RTL8309N_DOT1X_GLB_PAGE		15
-#define RTL8309N_DOT1X_GLB_REG		16
-#define RTL8309N_DOT1X_UNAUTH_TYPE	1	/* unauthorised action: abnormal-packet type 1 */
-#define RTL8309N_DOT1X_MAC_DIR_BIT	1
-
 /* ---- Traps, reserved multicast, IGMP ---- */
 #define RTL8309N_RMA_ADDR		2
 #define RTL8309N_RMA_PAGE		15
