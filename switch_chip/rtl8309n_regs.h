@@ -95,51 +95,6 @@
 #define RTL8309N_CPU_NO_CRC_BIT		10	/* 1: CRC check off */
 #define RTL8309N_CPU_INSERT_MASK_REG	17	/* bit p: tag frames of port p */
 
-/* ---- QoS priority sources, remapping, queues ---- */
-/* QoS soft reset: (0, 16, 14) bit 1, self-clearing. */
-#define RTL8309N_QOS_RESET_ADDR		0
-#define RTL8309N_QOS_RESET_REG		16
-#define RTL8309N_QOS_RESET_PAGE		14
-#define RTL8309N_QOS_RESET_BIT		1
-/* Global priority tables, SMI address 5, page 16. */
-#define RTL8309N_QOS_PAGE		16
-#define RTL8309N_QOS_ADDR		5
-#define RTL8309N_QOS_QNUM_REG		16	/* bits 1..0: queues - 1 */
-#define RTL8309N_QOS_ARBIT_REG		17	/* 2-bit weights 0, 3, 1, 2 upward */
-#define RTL8309N_QOS_1P_REMAP_REG	18	/* tag priority t: bits 2t+1..2t */
-#define RTL8309N_QOS_DSCP_REMAP_REG	19	/* 19..26: DSCP d in 19 + d / 8 */
-/* SMI address 6, page 16: egress re-marking and the per-port queue maps. */
-#define RTL8309N_QOS_MAP_ADDR		6
-#define RTL8309N_QOS_1P_REMARK_REG	16	/* priority p: bits 3p+2..3p */
-#define RTL8309N_QOS_1P_REMARK_WIDTH	3
-#define RTL8309N_QOS_QMAP_REG		17	/* 17 + port; priority 0 at bits 7..6 */
-/* IP-address priority entries A and B, SMI address 4, page 16. */
-#define RTL8309N_QOS_IP_ADDR		4
-#define RTL8309N_QOS_IP_CTRL_REG	22	/* A: bits 1..0, enable 2; B: 5..4, 6 */
-#define RTL8309N_QOS_IP_PRI_LSB		0
-#define RTL8309N_QOS_IP_EN_BIT		2
-#define RTL8309N_QOS_IP_ENTRY_SHIFT	4	/* entry B sits 4 bits above A */
-#define RTL8309N_QOS_IP_DATA_REG	23	/* A: 23..26, B: 27..30 */
-#define RTL8309N_QOS_IP_DATA_REGS	4	/* address lo, hi, mask lo, hi */
-/* Per port (SMI address = port), page 10: priority sources. */
-#define RTL8309N_QOS_PORT_PAGE		10
-#define RTL8309N_QOS_SRC_REG		16	/* bits 4..0: source disables */
-#define RTL8309N_QOS_SRC_ACL_OFF_BIT	0
-#define RTL8309N_QOS_SRC_IP_OFF_BIT	1
-#define RTL8309N_QOS_SRC_DSCP_OFF_BIT	2
-#define RTL8309N_QOS_SRC_PORT_OFF_BIT	3
-#define RTL8309N_QOS_SRC_1Q_OFF_BIT	4
-#define RTL8309N_QOS_1P_REMARK_EN_BIT	5
-#define RTL8309N_QOS_PORT_PRI_REG	17	/* bits 1..0 */
-#define RTL8309N_QOS_1Q_PORT_PRI_REG	18	/* bits 2..0: 802.1Q port priority */
-#define RTL8309N_QOS_1Q_PORT_PRI_BIT2	2	/* priorities 4..7, unused here */
-/* Per port, page 9: WRR weight (7 bits) and strict-priority flag per queue. */
-#define RTL8309N_QOS_SCHED_PAGE		9
-#define RTL8309N_QOS_SCHED_REG		17	/* queues 0, 1: 17; queues 2, 3: 18 */
-#define RTL8309N_QOS_SCHED_WEIGHTS	0x7F7F	/* weight of the lower queue 6..0 */
-#define RTL8309N_QOS_SCHED_STRICT_BIT	7	/* lower queue 7, upper queue 15 */
-#define RTL8309N_QOS_SCHED_UPPER_SHIFT	8
-
 /* ---- QoS bandwidth, leaky bucket, flow control ---- */
 /* Per port (SMI address = port), page 9: rates, leaky buckets, IFG. */
 #define RTL8309N_BW_PAGE		9
