@@ -174,43 +174,6 @@ s32 rtl8309n_cpu_port_get(u32 *pport, u32 *ptag);
 /* Make @port (0..8) the CPU port, with CPU-tag insertion when @tag != 0. */
 s32 rtl8309n_cpu_port_set(u32 port, u32 tag);
 
-/* ---- QoS bandwidth, leaky bucket, flow control (rtl8309n_qos_bw.c) ---- */
-
-/* Directions of the per-port rate calls. */
-#define RTL8309N_QOS_INGRESS		0
-#define RTL8309N_QOS_EGRESS		1
-
-/* Highest rate (in the chip's rate steps) of a port or of its queues. */
-#define RTL8309N_QOS_RATE_MAX(port)	(((port) & ~8u) == 0 ? 3200u : 1600u)
-#define RTL8309N_QOS_MAX_FLC_THR	127
-#define RTL8309N_QOS_FLC_THR_KINDS	4
-#define RTL8309N_QOS_PORT_THR_KINDS	2
-
-/* Note the argument orders: they differ between calls on purpose. */
-s32 rtl8309n_qos_portRate_set(u32 port, u32 rate, u32 direction);
-s32 rtl8309n_qos_portRate_get(u32 port, u32 *prate, u32 direction);
-/* Queues 2 and 3 only. */
-s32 rtl8309n_qos_queueRate_set(u32 port, u32 queue, u32 rate);
-s32 rtl8309n_qos_queueRate_get(u32 port, u32 queue, u32 *prate);
-s32 rtl8309n_qos_portRate_IfgIncludeEnable_set(u32 direction, u32 port, u32 enabled);
-s32 rtl8309n_qos_portRate_IfgIncludeEnable_get(u32 direction, u32 port, u32 *penabled);
-s32 rtl8309n_qos_portLeakyBktEnable_set(u32 port, u32 direction, u32 enabled);
-s32 rtl8309n_qos_portLeakyBktEnable_get(u32 port, u32 direction, u32 *penabled);
-s32 rtl8309n_qos_queueLeakyBktEnable_set(u32 port, u32 queue, u32 enabled);
-s32 rtl8309n_qos_queueLeakyBktEnable_get(u32 port, u32 queue, u32 *penabled);
-s32 rtl8309n_qos_queueFlcEnable_set(u32 port, u32 queue, u32 enabled);
-s32 rtl8309n_qos_queueFlcEnable_get(u32 port, u32 queue, u32 *penabled);
-s32 rtl8309n_qos_queueFlcThr_set(u32 port, u32 queue, u32 type, u32 thr);
-s32 rtl8309n_qos_queueFlcThr_get(u32 port, u32 queue, u32 type, u32 *pthr);
-s32 rtl8309n_qos_portDscFlcEnable_set(u32 port, u32 enabled);
-s32 rtl8309n_qos_portDscFlcEnable_get(u32 port, u32 *penabled);
-s32 rtl8309n_qos_egrFlcEnable_set(u32 port, u32 enabled);
-s32 rtl8309n_qos_egrFlcEnable_get(u32 port, u32 *penabled);
-s32 rtl8309n_qos_portFlcThr_set(u32 port, u32 thr1, u32 thr2, u32 type);
-s32 rtl8309n_qos_portFlcThr_get(u32 port, u32 *pthr1, u32 *pthr2, u32 type);
-s32 rtl8309n_qos_igrFlcEnable_set(u32 enabled);
-s32 rtl8309n_qos_igrFlcEnable_get(u32 *penabled);
-
 /* ---- ACL table (rtl8309n_acl.c) ---- */
 
 #define RTL8309N_ACL_ENTRY_NUM		16

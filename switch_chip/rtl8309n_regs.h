@@ -95,41 +95,6 @@
 #define RTL8309N_CPU_NO_CRC_BIT		10	/* 1: CRC check off */
 #define RTL8309N_CPU_INSERT_MASK_REG	17	/* bit p: tag frames of port p */
 
-/* ---- QoS bandwidth, leaky bucket, flow control ---- */
-/* Per port (SMI address = port), page 9: rates, leaky buckets, IFG. */
-#define RTL8309N_BW_PAGE		9
-#define RTL8309N_BW_EGR_CTRL_REG	16
-#define RTL8309N_BW_Q2_LEAKY_BIT	0
-#define RTL8309N_BW_Q3_LEAKY_BIT	1
-#define RTL8309N_BW_EGR_LEAKY_BIT	2
-#define RTL8309N_BW_EGR_NO_IFG_BIT	3	/* 1: IFG not counted */
-#define RTL8309N_BW_Q2_RATE_REG		21	/* written whole */
-#define RTL8309N_BW_Q3_RATE_REG		22
-#define RTL8309N_BW_EGR_RATE_REG	26	/* bits 11..0 */
-#define RTL8309N_BW_IGR_CTRL_REG	27
-#define RTL8309N_BW_IGR_NO_LEAKY_BIT	0	/* 1: ingress leaky bucket off */
-#define RTL8309N_BW_IGR_IFG_BIT		1
-#define RTL8309N_BW_IGR_RATE_REG	28	/* bits 11..0 */
-#define RTL8309N_BW_RATE_WIDTH		12
-/* Per port: queue thresholds, kinds 0/1 on page 11, kinds 2/3 on page 12. */
-#define RTL8309N_FLC_QTHR_PAGE		11	/* + kind / 2 */
-#define RTL8309N_FLC_QTHR_REG		16	/* + 2 * queue + kind % 2 */
-/* Per port: port thresholds, two registers per kind. */
-#define RTL8309N_FLC_PTHR0_PAGE		13
-#define RTL8309N_FLC_PTHR0_REG		17	/* 17, 18 */
-#define RTL8309N_FLC_PTHR1_PAGE		11
-#define RTL8309N_FLC_PTHR1_REG		24	/* 24, 25 */
-/* Global flow control, SMI address 7, page 16. */
-#define RTL8309N_FLC_ADDR		7
-#define RTL8309N_FLC_PAGE		16
-#define RTL8309N_FLC_IGR_REG		18	/* bit 0: ingress flow control on */
-#define RTL8309N_FLC_IGR_BIT		0
-#define RTL8309N_FLC_DSC_OFF_REG	23	/* bit p: port p off */
-#define RTL8309N_FLC_EGR_OFF_REG	24	/* bit p: port p off */
-#define RTL8309N_FLC_QUEUE_OFF_REG	25	/* ports 0..3: 25, 4..7: 26, 4 bits each */
-#define RTL8309N_FLC_QUEUE_PORTS_PER_REG 4
-#define RTL8309N_FLC_CPU_QUEUE_OFF_LSB	12	/* port 8: bits 15..12 of register 24 */
-
 /* ---- ACL table ---- */
 #define RTL8309N_ACL_ADDR		3
 #define RTL8309N_ACL_PAGE		15
