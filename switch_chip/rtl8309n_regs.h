@@ -150,55 +150,6 @@
 #define RTL8309N_MIRROR_MASK_WIDTH	9
 #define RTL8309N_MIRROR_MAC_REG		19	/* 19..21: MAC bytes 0/1, 2/3, 4/5 */
 
-/* ---- L2 address table ---- */
-#define RTL8309N_L2_ADDR		6
-#define RTL8309N_L2_PAGE		15
-#define RTL8309N_L2_CTRL_REG		16
-#define RTL8309N_L2_ACCESS_BIT		0	/* held during one entry command */
-#define RTL8309N_L2_HASH_MODE_BIT	1
-#define RTL8309N_L2_CAM_DISABLE_BIT	3
-#define RTL8309N_L2_LRU_BIT		4
-#define RTL8309N_L2_FAST_AGING_BIT	5
-#define RTL8309N_L2_FLUSH_BIT		6
-#define RTL8309N_L2_DA_BLOCK_ACT_BIT	7	/* 1: drop, 0: trap */
-#define RTL8309N_L2_SA_BLOCK_ACT_BIT	8	/* 1: drop, 0: trap */
-#define RTL8309N_L2_AGING_BIT		11
-#define RTL8309N_L2_DP_MASK_BIT		12
-#define RTL8309N_L2_UNKNOWN_DA_KEEP_BIT	13	/* 1: unknown-DA drop disabled */
-#define RTL8309N_L2_LIMIT_REG		17
-#define RTL8309N_L2_SYS_LIMIT_B_WIDTH	9	/* bits 8..0 */
-#define RTL8309N_L2_LIMIT_ACT_BIT	9	/* 1: trap, 0: drop */
-#define RTL8309N_L2_CMD_REG		18
-#define RTL8309N_L2_CMD_INDEX_MASK	0x07FF
-#define RTL8309N_L2_CMD_BUSY_BIT	11	/* execute; the chip clears it */
-#define RTL8309N_L2_CMD_READ_BIT	12	/* 1 read, 0 write */
-#define RTL8309N_L2_ENTRY_REG		19	/* control word */
-#define RTL8309N_L2_MAC_REG		20	/* 20..22: MAC bytes 4/5, 2/3, 0/1 */
-#define RTL8309N_L2_SYS_LIMIT_REG	23
-#define RTL8309N_L2_SYS_LIMIT_A_WIDTH	8	/* bits 7..0 */
-#define RTL8309N_L2_SYS_LIMIT_EN_BIT	8
-#define RTL8309N_L2_SYS_COUNT_REG	24
-#define RTL8309N_L2_COUNT_WIDTH		11	/* learning counters, bits 10..0 */
-/* Per port: SMI address = port, page 5. */
-#define RTL8309N_L2_PORT_PAGE		5
-#define RTL8309N_L2_PORT_LIMIT_REG	16
-#define RTL8309N_L2_PORT_LIMIT_EN_BIT	1
-#define RTL8309N_L2_PORT_LIMIT_LSB	11	/* bits 15..11 */
-#define RTL8309N_L2_PORT_LIMIT_WIDTH	5
-#define RTL8309N_L2_PORT_COUNT_REG	17
-
-/* Unicast and multicast entry control words (register 19). */
-#define RTL8309N_L2_WORD_FID_MASK	0x0003
-#define RTL8309N_L2_WORD_PORT_SHIFT	2	/* unicast: bits 5..2 */
-#define RTL8309N_L2_WORD_PORT_MASK	0x000F
-#define RTL8309N_L2_WORD_AGE_SHIFT	6	/* unicast: bits 7..6, Gray coded */
-#define RTL8309N_L2_WORD_STATIC		0x0100
-#define RTL8309N_L2_WORD_BLOCK9		0x0200
-#define RTL8309N_L2_WORD_BLOCK10	0x0400
-#define RTL8309N_L2_WORD_AUTH		0x0800
-#define RTL8309N_L2_WORD_PMASK_SHIFT	2	/* multicast: bits 10..2 */
-#define RTL8309N_L2_WORD_VALID		0x0800	/* multicast */
-
 /* ---- STP and 802.1X ---- */
 #define RTL8309N_STP_PAGE		2	/* on the port's own address */
 #define RTL8309N_STP_REG		16
