@@ -174,24 +174,6 @@ static s32 l2_entry_read(u32 index, struct l2_raw *raw)
 	return RT_ERR_OK;
 }
 
-static void l2_mac_copy(u8 *dst, const u8 *src)
-{
-	u32 i;
-
-	for (i = 0; i < RTL8309N_MAC_LEN; i++)
-		dst[i] = src[i];
-}
-
-static int l2_mac_equal(const u8 *a, const u8 *b)
-{
-	u32 i;
-
-	for (i = 0; i < RTL8309N_MAC_LEN; i++)
-		if (a[i] != b[i])
-			return 0;
-	return 1;
-}
-
 static void l2_ucast_decode(const struct l2_raw *raw, rtl8309n_l2_ucastEntry *entry)
 {
 	u32 w = raw->word;
@@ -203,7 +185,7 @@ static void l2_ucast_decode(const struct l2_raw *raw, rtl8309n_l2_ucastEntry *en
 	entry->age = l2_age_code[rtl8309n_field_extract(RTL8309N_L2_ENTRY_AGE, w)];
 	entry->port = rtl8309n_field_extract(RTL8309N_L2_ENTRY_PORT, w);
 	entry->fid = rtl8309n_field_extract(RTL8309N_L2_ENTRY_FID, w);
-	l2_mac_copy(entry->mac, raw->mac);
+	rtl8309n_mac_copy(entry->mac, raw->mac);
 }
 
 static void l2_mcast_decode(const struct l2_raw *raw, rtl8309n_l2_mcastEntry *entry)
@@ -211,7 +193,7 @@ static void l2_mcast_decode(const struct l2_raw *raw, rtl8309n_l2_mcastEntry *en
 	entry->valid = !!(raw->word & RTL8309N_L2_ENTRY_VALID);
 	entry->fid = rtl8309n_field_extract(RTL8309N_L2_ENTRY_FID, raw->word);
 	entry->portMask = rtl8309n_field_extract(RTL8309N_L2_ENTRY_PORTMASK, raw->word);
-	l2_mac_copy(entry->mac, raw->mac);
+	rtl8309n_mac_copy(entry->mac, raw->mac);
 }
 
 /*
@@ -296,7 +278,7 @@ s32 rtl8309n_l2_MacToIdx_get(const u8 *mac, u32 fid, u32 *pindex)
 		return RT_ERR_FAILED;
 
 	rtl8309n_l2_hashmode_get(&mode);
-	l2_mac_copy(key, mac);
+	rtl8309n_mac_copy(key, mac);
 	key[RTL8309N_MAC_LEN] = (u8)fid;
 	for (bit = 0; bit < L2_HASH_BITS; bit++) {
 		const u8 *term = l2_hash_terms[mode][bit];
@@ -351,7 +333,7 @@ static s32 l2_scan_next(struct l2_scan *sc, const u8 *key)
 		sc->index = L2_INDEX(sc->hash, sc->way);
 		if (l2_entry_read(sc->index, &sc->raw) != RT_ERR_OK)
 			return RT_ERR_FAILED;
-		if (key ? l2_mac_equal(sc->raw.mac, key) : l2_replaceable(&sc->raw))
+		if (key ? rtl8309n_mac_equal(sc->raw.mac, key) : l2_replaceable(&sc->raw))
 			return RT_ERR_OK;
 	}
 	return RTL8309N_L2_NOT_FOUND;
@@ -506,7 +488,7 @@ s32 rtl8309n_l2_mcastAddr_add(const u8 *mac, u32 fid, u32 portMask, u32 *pindex)
 		rec.valid = 1;
 		rec.fid = fid;
 		rec.portMask = portMask;
-		l2_mac_copy(rec.mac, mac);
+		rtl8309n_mac_copy(rec.mac, mac);
 		if (rtl8309n_l2_mcastEntry_set(sc.index, &rec) != RT_ERR_OK)
 			return RT_ERR_FAILED;
 	}

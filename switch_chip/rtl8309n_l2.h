@@ -2,7 +2,7 @@
 /*
  * RTL8309N L2 address table block: the 2048-entry table behind the command
  * and data registers of SMI address 6, page 15, its controls and learning
- * limits.
+ * limits, and the MAC address helpers both library layers share.
  */
 #ifndef RTL8309N_L2_H
 #define RTL8309N_L2_H
@@ -79,6 +79,20 @@
 static inline int rtl8309n_mac_is_mcast(const u8 *mac)
 {
 	return mac[0] & 0x01;
+}
+
+/*
+ * MAC copy and comparison for both layers.  The compiler's builtins: the
+ * library has no libc, and the kernel brings its own.
+ */
+static inline void rtl8309n_mac_copy(u8 *dst, const u8 *src)
+{
+	__builtin_memcpy(dst, src, RTL8309N_MAC_LEN);
+}
+
+static inline int rtl8309n_mac_equal(const u8 *a, const u8 *b)
+{
+	return !__builtin_memcmp(a, b, RTL8309N_MAC_LEN);
 }
 
 /* The action controls take RTL8309N_ACT_TRAP or RTL8309N_ACT_DROP. */
