@@ -255,38 +255,6 @@ s32 rtl8309n_dot1x_macBased_get(u32 *pDirection);
 s32 rtl8309n_dot1x_unauthPktAction_set(u32 action);
 s32 rtl8309n_dot1x_unauthPktAction_get(u32 *pAction);
 
-/* ---- Traps, reserved multicast, IGMP (rtl8309n_trap.c) ---- */
-/* Packet actions of the register layer (L2, trap and reserved multicast) */
-#define RTL8309N_ACT_FORWARD		0
-#define RTL8309N_ACT_TRAP		2	/* to the CPU port */
-#define RTL8309N_ACT_DROP		3
-
-#define RTL8309N_RMA_ENTRY_MAX		18	/* fixed entries 0..18 */
-#define RTL8309N_RMA_STP_ENTRY		0	/* rewritten by every STP state change */
-#define RTL8309N_RMA_IGMP_ENTRY		12	/* 12..15: IGMP control types 0..3 */
-
-/* One reserved-multicast slot; value 1 of action is carried but unused. */
-typedef struct rtl8309n_rma_entry {
-	u32 action;	/* 0..3 */
-	u32 flag;	/* 0 or 1 */
-	u32 value;	/* 2 bits */
-} rtl8309n_rma_entry;
-
-s32 rtl8309n_rma_entry_set(u32 index, const rtl8309n_rma_entry *pEntry);
-s32 rtl8309n_rma_entry_get(u32 index, rtl8309n_rma_entry *pEntry);
-/* @pMac: three words, MAC byte 2k in bits 7..0 of word k */
-s32 rtl8309n_rma_userentry_set(const rtl8309n_rma_entry *pEntry, const u16 *pMac);
-/* @pMac: six bytes */
-s32 rtl8309n_rma_userentry_get(rtl8309n_rma_entry *pEntry, u8 *pMac);
-s32 rtl8309n_igmp_enable_set(u32 type, u32 enabled);
-s32 rtl8309n_igmp_enable_get(u32 type, u32 *pEnabled);
-s32 rtl8309n_trap_unknownIPMcastPktAction_set(u32 type, u32 action);
-s32 rtl8309n_trap_unknownIPMcastPktAction_get(u32 type, u32 *pAction);
-s32 rtl8309n_trap_abnormalPktAction_set(u32 type, u32 action);
-s32 rtl8309n_trap_abnormalPktAction_get(u32 type, u32 *pAction);
-s32 rtl8309n_trap_igmpCtrlPktAction_set(u32 type, u32 action);
-s32 rtl8309n_trap_igmpCtrlPktAction_get(u32 type, u32 *pAction);
-
 /* ---- Interrupts and storm filtering (rtl8309n_intr_storm.c) ---- */
 #define RTL8309N_INTR_MASK_ALL		0x1FFF	/* 13 interrupt sources */
 #define RTL8309N_STORM_TYPE_MAX		3	/* types 1 and 2 share one filter */

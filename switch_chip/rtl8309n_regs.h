@@ -169,44 +169,6 @@
 #define RTL8309N_DOT1X_UNAUTH_TYPE	1	/* unauthorised action: abnormal-packet type 1 */
 #define RTL8309N_DOT1X_MAC_DIR_BIT	1
 
-/* ---- Traps, reserved multicast, IGMP ---- */
-#define RTL8309N_RMA_ADDR		2
-#define RTL8309N_RMA_PAGE		15
-#define RTL8309N_RMA_REG_BASE		16	/* entries 2k and 2k+1 in register 16 + k */
-#define RTL8309N_RMA_USER_REG		25	/* user entry: high slot */
-#define RTL8309N_RMA_USER_MAC_REG	26	/* 26..28, MAC byte 2k in bits 7..0 */
-#define RTL8309N_RMA_SLOT_MASK		0x1F
-#define RTL8309N_RMA_HIGH_SLOT		8	/* shift of the odd entry's slot */
-#define RTL8309N_RMA_ACTION_MASK	0x3	/* slot bits 1..0 */
-#define RTL8309N_RMA_FLAG_SHIFT		2
-#define RTL8309N_RMA_VALUE_SHIFT	3
-#define RTL8309N_RMA_VALUE_MASK		0x3	/* slot bits 4..3 */
-
-#define RTL8309N_IGMP_ADDR		1
-#define RTL8309N_IGMP_PAGE		15
-#define RTL8309N_IGMP_REG		16
-#define RTL8309N_IGMP_TYPE0_EN_BIT	0
-#define RTL8309N_IGMP_TYPE1_EN_BIT	1
-#define RTL8309N_IGMP_TYPE23_DIS_BIT	2	/* active low, shared by types 2 and 3 */
-
-/* Trap bits on address 6: set means drop */
-#define RTL8309N_TRAP_ADDR		6
-#define RTL8309N_TRAP_PAGE		15
-#define RTL8309N_TRAP_REG		16
-#define RTL8309N_TRAP_UNKNOWN_MC0_BIT	9
-#define RTL8309N_TRAP_UNKNOWN_MC1_BIT	10
-#define RTL8309N_TRAP_ABNORMAL2_BIT	8	/* also the L2 SA-block action */
-#define RTL8309N_TRAP_ABNORMAL3_BIT	7	/* also the L2 DA-block action */
-/* Abnormal-packet types 0 and 1 on address 0: set means trap */
-#define RTL8309N_TRAP_ABNORMAL0_ADDR	0
-#define RTL8309N_TRAP_ABNORMAL0_PAGE	16
-#define RTL8309N_TRAP_ABNORMAL0_REG	16
-#define RTL8309N_TRAP_ABNORMAL0_BIT	2
-#define RTL8309N_TRAP_ABNORMAL1_ADDR	0
-#define RTL8309N_TRAP_ABNORMAL1_PAGE	15
-#define RTL8309N_TRAP_ABNORMAL1_REG	16
-#define RTL8309N_TRAP_ABNORMAL1_BIT	0	/* also the 802.1X unauthorised action */
-
 /* ---- Interrupts and storm filtering ---- */
 #define RTL8309N_INTR_ADDR		0
 #define RTL8309N_INTR_PAGE		17
