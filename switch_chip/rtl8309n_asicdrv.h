@@ -255,28 +255,6 @@ s32 rtl8309n_dot1x_macBased_get(u32 *pDirection);
 s32 rtl8309n_dot1x_unauthPktAction_set(u32 action);
 s32 rtl8309n_dot1x_unauthPktAction_get(u32 *pAction);
 
-/* ---- Interrupts and storm filtering (rtl8309n_intr_storm.c) ---- */
-#define RTL8309N_INTR_MASK_ALL		0x1FFF	/* 13 interrupt sources */
-#define RTL8309N_STORM_TYPE_MAX		3	/* types 1 and 2 share one filter */
-
-typedef struct rtl8309n_storm_attr {
-	u32 ctrlFlag;	/* written as (is not 0) */
-	u32 rate;	/* 17 bits */
-	u32 param;	/* 16 bits */
-	u32 globalFlag;	/* one flag for all ports and types, written as (is 1) */
-} rtl8309n_storm_attr;
-
-s32 rtl8309n_intr_enable_set(u32 enabled, u32 mask);
-s32 rtl8309n_intr_enable_get(u32 *pEnabled, u32 *pMask);
-s32 rtl8309n_intr_status_set(u32 status);
-s32 rtl8309n_intr_status_get(u32 *pStatus);
-s32 rtl8309n_storm_filterEnable_set(u32 port, u32 type, u32 enabled);
-s32 rtl8309n_storm_filterEnable_get(u32 port, u32 type, u32 *pEnabled);
-s32 rtl8309n_storm_filterAttr_set(u32 port, u32 type, const rtl8309n_storm_attr *pAttr);
-s32 rtl8309n_storm_filterAttr_get(u32 port, u32 type, rtl8309n_storm_attr *pAttr);
-s32 rtl8309n_storm_filterStatus_set(u32 port, u32 type, u32 enabled);
-s32 rtl8309n_storm_filterStatus_get(u32 port, u32 type, u32 *pEnabled);
-
 /* ---- Loop detection RLDP/RLPP (rtl8309n_rldp.c) ---- */
 typedef struct rtl8309n_rldp_controlAttr {
 	u32 attr1;	/* 0..3 */

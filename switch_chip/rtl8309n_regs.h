@@ -169,31 +169,6 @@
 #define RTL8309N_DOT1X_UNAUTH_TYPE	1	/* unauthorised action: abnormal-packet type 1 */
 #define RTL8309N_DOT1X_MAC_DIR_BIT	1
 
-/* ---- Interrupts and storm filtering ---- */
-#define RTL8309N_INTR_ADDR		0
-#define RTL8309N_INTR_PAGE		17
-#define RTL8309N_INTR_CTRL_REG		16
-#define RTL8309N_INTR_GLOBAL_EN_BIT	15
-#define RTL8309N_INTR_STATUS_REG	17
-#define RTL8309N_INTR_SOURCES		13	/* bits 12..0 of both registers */
-
-#define RTL8309N_STORM_PAGE		8	/* on the port's own address */
-#define RTL8309N_STORM0_CTRL_REG	22	/* rate and second value follow */
-#define RTL8309N_STORM12_CTRL_REG	19	/* shared by types 1 and 2 */
-#define RTL8309N_STORM3_CTRL_REG	16
-#define RTL8309N_STORM_RATE_OFS		1	/* rate register: control + 1 */
-#define RTL8309N_STORM_PARAM_OFS	2	/* second value: control + 2 */
-#define RTL8309N_STORM_EN_BIT		0
-#define RTL8309N_STORM_CTRLFLAG_BIT	1
-#define RTL8309N_STORM_STATUS_BIT	2
-#define RTL8309N_STORM_TYPESEL_BIT	3	/* register 19 only: 1 serves type 2 */
-#define RTL8309N_STORM_RATE_HI_BIT	15	/* bit 16 of the rate */
-#define RTL8309N_STORM_RATE_LO_MASK	0xFFFF
-#define RTL8309N_STORM_GLB_ADDR		6
-#define RTL8309N_STORM_GLB_PAGE		14
-#define RTL8309N_STORM_GLB_REG		16
-#define RTL8309N_STORM_GLB_BIT		0
-
 /* ---- Loop detection RLDP/RLPP ---- */
 #define RTL8309N_RLDP_ADDR		4
 #define RTL8309N_RLDP_PAGE		14
