@@ -255,34 +255,6 @@ s32 rtl8309n_dot1x_macBased_get(u32 *pDirection);
 s32 rtl8309n_dot1x_unauthPktAction_set(u32 action);
 s32 rtl8309n_dot1x_unauthPktAction_get(u32 *pAction);
 
-/* ---- Loop detection RLDP/RLPP (rtl8309n_rldp.c) ---- */
-typedef struct rtl8309n_rldp_controlAttr {
-	u32 attr1;	/* 0..3 */
-	u32 attr2;	/* 0..3 */
-	u32 attr3;	/* 0..16; 16 lands on the storm-filter bit */
-	u8 mac[6];
-} rtl8309n_rldp_controlAttr;
-
-s32 rtl8309n_rldp_enable_set(u32 enabled);
-s32 rtl8309n_rldp_enable_get(u32 *pEnabled);
-s32 rtl8309n_rldp_priEnable_set(u32 enabled);
-s32 rtl8309n_rldp_priEnable_get(u32 *pEnabled);
-s32 rtl8309n_rldp_ttlEnable_set(u32 enabled);
-s32 rtl8309n_rldp_ttlEnable_get(u32 *pEnabled);
-s32 rtl8309n_rldp_stormFilterEnable_set(u32 enabled);
-s32 rtl8309n_rldp_stormFilterEnable_get(u32 *pEnabled);
-s32 rtl8309n_rldp_vlanTagEnable_set(u32 enabled);
-s32 rtl8309n_rldp_vlanTagEnable_get(u32 *pEnabled);
-s32 rtl8309n_rldp_identifierEnable_set(u32 enabled);
-s32 rtl8309n_rldp_identifierEnable_get(u32 *pEnabled);
-s32 rtl8309n_rlpp_action_set(u32 action);
-s32 rtl8309n_rlpp_action_get(u32 *pAction);
-s32 rtl8309n_rldp_controlAttr_set(const rtl8309n_rldp_controlAttr *pAttr);
-s32 rtl8309n_rldp_controlAttr_get(rtl8309n_rldp_controlAttr *pAttr);
-s32 rtl8309n_rldp_protocol_set(u32 protocol);
-s32 rtl8309n_rldp_protocol_get(u32 *pProtocol);
-s32 rtl8309n_rldp_loopStatus_get(u32 *pStatus);
-
 /* ---- ISP / WAN port (rtl8309n_isp.c) ---- */
 s32 rtl8309n_isp_enable_set(u32 enabled);
 s32 rtl8309n_isp_enable_get(u32 *pEnabled);

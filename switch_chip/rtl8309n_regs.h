@@ -169,26 +169,6 @@
 #define RTL8309N_DOT1X_UNAUTH_TYPE	1	/* unauthorised action: abnormal-packet type 1 */
 #define RTL8309N_DOT1X_MAC_DIR_BIT	1
 
-/* ---- Loop detection RLDP/RLPP ---- */
-#define RTL8309N_RLDP_ADDR		4
-#define RTL8309N_RLDP_PAGE		14
-#define RTL8309N_RLDP_MAC_REG		16	/* 16..18, MAC byte 2k in bits 7..0 */
-#define RTL8309N_RLDP_CTRL_REG		19
-#define RTL8309N_RLDP_STATUS_REG	20	/* read only */
-#define RTL8309N_RLDP_PROTO_REG		21
-#define RTL8309N_RLDP_DIS_BIT		0	/* active low */
-#define RTL8309N_RLPP_ACTION_BIT	1	/* set: action 0, clear: action 2 */
-#define RTL8309N_RLDP_ATTR1_SHIFT	2	/* bits 3..2 */
-#define RTL8309N_RLDP_PRI_EN_BIT	4
-#define RTL8309N_RLDP_ATTR2_SHIFT	5	/* bits 6..5 */
-#define RTL8309N_RLDP_TTL_EN_BIT	7
-#define RTL8309N_RLDP_ATTR3_SHIFT	8	/* bits 11..8 */
-#define RTL8309N_RLDP_STORM_DIS_BIT	12	/* active low */
-#define RTL8309N_RLDP_VLANTAG_EN_BIT	13
-#define RTL8309N_RLDP_ID_EN_BIT		14
-#define RTL8309N_RLDP_ATTR12_MASK	0x3
-#define RTL8309N_RLDP_ATTR3_MASK	0xF
-
 /* ---- ISP / WAN port ---- */
 #define RTL8309N_ISP_ADDR		1
 #define RTL8309N_ISP_PAGE		17
