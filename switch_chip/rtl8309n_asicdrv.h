@@ -265,26 +265,6 @@ s32 rtl8309n_isp_mac_get(u8 *pMac);
 s32 rtl8309n_isp_wanPort_set(u32 port);
 s32 rtl8309n_isp_wanPort_get(u32 *pPort);
 
-/* ---- LEDs and buzzer (rtl8309n_led.c) ---- */
-s32 rtl8309n_led_rstBlinkEnable_set(u32 enabled);
-s32 rtl8309n_led_rstBlinkEnable_get(u32 *pEnabled);
-s32 rtl8309n_led_rldpEnable_set(u32 enabled);
-s32 rtl8309n_led_rldpEnable_get(u32 *pEnabled);
-s32 rtl8309n_led_led1Enable_set(u32 enabled);
-s32 rtl8309n_led_led1Enable_get(u32 *pEnabled);
-s32 rtl8309n_led_modeBlinkRate_set(u32 mode, u32 rate);
-s32 rtl8309n_led_modeBlinkRate_get(u32 *pMode, u32 *pRate);
-s32 rtl8309n_led_rlppRldp_blinkRate_set(u32 rate);
-s32 rtl8309n_led_rlppRldp_blinkRate_get(u32 *pRate);
-s32 rtl8309n_led_rlppLedMsk_set(u32 mask);
-s32 rtl8309n_led_rlppLedMsk_get(u32 *pMask);
-s32 rtl8309n_led_buzzerForm_set(u32 form);
-s32 rtl8309n_led_buzzerForm_get(u32 *pForm);
-s32 rtl8309n_led_rtct_set(u32 group, u32 state, u32 result);
-s32 rtl8309n_led_rtct_get(u32 *pGroup, u32 *pState, u32 *pResult);
-s32 rtl8309n_led_cpu_set(u32 group, u32 value1, u32 value2);
-s32 rtl8309n_led_cpu_get(u32 group, u32 *pValue1, u32 *pValue2);
-
 /* ---- Wake-up (rtl8309n_wol.c) ---- */
 s32 rtl8309n_wkp_enable_set(u32 enabled1, u32 enabled2);
 s32 rtl8309n_wkp_enable_get(u32 *pEnabled1, u32 *pEnabled2);

@@ -178,25 +178,6 @@
 #define RTL8309N_ISP_WAN_WIDTH		4	/* read back as bits 3..0 */
 #define RTL8309N_ISP_MAC_REG		18	/* 18..20, MAC byte 2k in bits 7..0 */
 
-/* ---- LEDs and buzzer ---- */
-#define RTL8309N_LED_ADDR		1
-#define RTL8309N_LED_PAGE		14
-#define RTL8309N_LED_CTRL_REG		16
-#define RTL8309N_LED_MODE_SHIFT		0	/* bits 2..0 */
-#define RTL8309N_LED_BLINK_SHIFT	3
-#define RTL8309N_LED_RSTBLINK_DIS_BIT	4	/* active low */
-#define RTL8309N_LED_RLDP_EN_BIT	5
-#define RTL8309N_LED_RLPP_RATE_BIT	6	/* set: rate 3, clear: rate 2 */
-#define RTL8309N_LED_BUZZER_BIT		7
-#define RTL8309N_LED_RTCT_GROUP_BIT	8
-#define RTL8309N_LED_RTCT_G0_SHIFT	9	/* bits 10..9 */
-#define RTL8309N_LED_RTCT_G1_SHIFT	11	/* bits 12..11 */
-#define RTL8309N_LED_RTCT_RESULT_BIT	13	/* set: result 7, clear: result 5 */
-#define RTL8309N_LED_LED1_EN_BIT	14
-#define RTL8309N_LED_CPU1_REG		17	/* first value: group 0 low byte, 1 high */
-#define RTL8309N_LED_CPU2_REG		18	/* second value, same layout */
-#define RTL8309N_LED_RLPP_MSK_REG	19
-
 /* ---- Wake-up ---- */
 #define RTL8309N_WKP_ADDR		7
 #define RTL8309N_WKP_PAGE		14
