@@ -12,8 +12,6 @@
 #define RLDP_ATTR3_MAX		16
 #define RLDP_CTRL_ATTRS		(RTL8309N_RLDP_CTRL_ATTR1 | RTL8309N_RLDP_CTRL_ATTR2 |	\
 				 RTL8309N_RLDP_CTRL_ATTR3)
-/* Protocol and status registers are read back whole. */
-#define RLDP_REG_ALL		RTL8309N_GENMASK(15, 0)
 
 #define RLDP_CTRL_FIELD(mask, kind)						\
 	RTL8309N_FIELD(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_CTRL_REG, RTL8309N_RLDP_PAGE,	\
@@ -146,6 +144,7 @@ s32 rtl8309n_rldp_controlAttr_get(rtl8309n_rldp_controlAttr *pAttr)
 	return RT_ERR_OK;
 }
 
+/* Written as a byte, read back whole. */
 s32 rtl8309n_rldp_protocol_set(u32 protocol)
 {
 	rtl8309n_reg_set(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_PROTO_REG, RTL8309N_RLDP_PAGE,
@@ -156,11 +155,11 @@ s32 rtl8309n_rldp_protocol_set(u32 protocol)
 s32 rtl8309n_rldp_protocol_get(u32 *pProtocol)
 {
 	return rtl8309n_reg_get_masked(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_PROTO_REG,
-				       RTL8309N_RLDP_PAGE, RLDP_REG_ALL, pProtocol);
+				       RTL8309N_RLDP_PAGE, RTL8309N_GENMASK(15, 0), pProtocol);
 }
 
 s32 rtl8309n_rldp_loopStatus_get(u32 *pStatus)
 {
 	return rtl8309n_reg_get_masked(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_STATUS_REG,
-				       RTL8309N_RLDP_PAGE, RLDP_REG_ALL, pStatus);
+				       RTL8309N_RLDP_PAGE, RTL8309N_GENMASK(15, 0), pStatus);
 }
