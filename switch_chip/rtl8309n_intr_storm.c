@@ -148,7 +148,7 @@ s32 rtl8309n_storm_filterAttr_set(u32 port, u32 type, const rtl8309n_storm_attr 
 		return RT_ERR_FAILED;
 
 	storm_ctrl_set(port, type, RTL8309N_STORM_CTRL_FLAG, pAttr->ctrlFlag != 0);
-	storm_ctrl_set(port, type, RTL8309N_STORM_CTRL_RATE_HIGH,
+	storm_ctrl_set(port, type, RTL8309N_STORM_CTRL_RATE_BIT16,
 		       (pAttr->rate >> STORM_RATE_LOW_BITS) & 1);
 	storm_value_set(port, type, RTL8309N_STORM_RATE_OFS, (u16)pAttr->rate);
 	if (storm_type_shared(type))
@@ -164,7 +164,7 @@ s32 rtl8309n_storm_filterAttr_get(u32 port, u32 type, rtl8309n_storm_attr *pAttr
 		return RT_ERR_FAILED;
 
 	pAttr->ctrlFlag = storm_ctrl_get(port, type, RTL8309N_STORM_CTRL_FLAG);
-	pAttr->rate = storm_ctrl_get(port, type, RTL8309N_STORM_CTRL_RATE_HIGH) <<
+	pAttr->rate = storm_ctrl_get(port, type, RTL8309N_STORM_CTRL_RATE_BIT16) <<
 		      STORM_RATE_LOW_BITS;
 	pAttr->rate |= storm_value_get(port, type, RTL8309N_STORM_RATE_OFS);
 	pAttr->param = storm_value_get(port, type, RTL8309N_STORM_PARAM_OFS);

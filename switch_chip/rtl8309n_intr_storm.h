@@ -29,7 +29,7 @@
 #define   RTL8309N_STORM_CTRL_FLAG		0x0002
 #define   RTL8309N_STORM_CTRL_STATUS		0x0004
 #define   RTL8309N_STORM_CTRL_TYPE2		0x0008	/* shared filter: 1 serves type 2 */
-#define   RTL8309N_STORM_CTRL_RATE_HIGH		0x8000	/* bit 16 of the rate */
+#define   RTL8309N_STORM_CTRL_RATE_BIT16	0x8000	/* bit 16 of the rate */
 #define RTL8309N_STORM_RATE_OFS			1	/* rate bits 15..0 */
 #define RTL8309N_STORM_PARAM_OFS		2
 

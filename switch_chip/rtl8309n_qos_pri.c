@@ -45,8 +45,8 @@ static const struct rtl8309n_field qos_1p_remark_en =
 	QOS_PORT_FIELD(RTL8309N_QOS_SRC_REG, RTL8309N_QOS_SRC_1P_REMARK_EN, RTL8309N_FIELD_FLAG);
 static const struct rtl8309n_field qos_port_pri =
 	QOS_PORT_FIELD(RTL8309N_QOS_PORT_PRI_REG, RTL8309N_QOS_PORT_PRI, RTL8309N_FIELD_VALUE);
-static const struct rtl8309n_field qos_1q_pri_high =
-	QOS_PORT_FIELD(RTL8309N_QOS_1Q_PORT_PRI_REG, RTL8309N_QOS_1Q_PORT_PRI_HIGH,
+static const struct rtl8309n_field qos_1q_pri_upper =
+	QOS_PORT_FIELD(RTL8309N_QOS_1Q_PORT_PRI_REG, RTL8309N_QOS_1Q_PORT_PRI_UPPER,
 		       RTL8309N_FIELD_FLAG);
 
 /*
@@ -79,10 +79,10 @@ static const struct rtl8309n_field qos_ip_pri[] = {
 
 /* Strict-priority flag of each queue, above the queue's WRR weight. */
 static const struct rtl8309n_field qos_strict[RTL8309N_QOS_MAX_QUEUE + 1] = {
-	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG, RTL8309N_QOS_SCHED_STRICT_LOW),
-	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG, RTL8309N_QOS_SCHED_STRICT_HIGH),
-	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG + 1, RTL8309N_QOS_SCHED_STRICT_LOW),
-	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG + 1, RTL8309N_QOS_SCHED_STRICT_HIGH),
+	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG, RTL8309N_QOS_SCHED_STRICT_EVEN),
+	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG, RTL8309N_QOS_SCHED_STRICT_ODD),
+	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG + 1, RTL8309N_QOS_SCHED_STRICT_EVEN),
+	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG + 1, RTL8309N_QOS_SCHED_STRICT_ODD),
 };
 
 /* ---- Queues ---- */
@@ -156,13 +156,13 @@ s32 rtl8309n_qos_portPri_get(u32 port, u32 *ppri)
 
 /*
  * The register holds a 3-bit tag priority of which this library uses 0..3:
- * the high bit is cleared by a separate write first, then @pri is OR-ed in
- * as given (callers keep it within 0..3).  A port whose high bit is set
+ * the upper bit is cleared by a separate write first, then @pri is OR-ed
+ * in as given (callers keep it within 0..3).  A port whose upper bit is set
  * has a priority the getter cannot name, and it fails.
  */
 s32 rtl8309n_qos_1QPortPri_set(u32 port, u32 pri)
 {
-	if (rtl8309n_field_set(&qos_1q_pri_high, port, RTL8309N_DISABLED) != RT_ERR_OK)
+	if (rtl8309n_field_set(&qos_1q_pri_upper, port, RTL8309N_DISABLED) != RT_ERR_OK)
 		return RT_ERR_FAILED;
 	return rtl8309n_reg_update(port, RTL8309N_QOS_1Q_PORT_PRI_REG, RTL8309N_QOS_PORT_PAGE,
 				   RTL8309N_QOS_1Q_PORT_PRI, pri);
@@ -176,7 +176,7 @@ s32 rtl8309n_qos_1QPortPri_get(u32 port, u32 *ppri)
 		return RT_ERR_FAILED;
 
 	rtl8309n_reg_get(port, RTL8309N_QOS_1Q_PORT_PRI_REG, RTL8309N_QOS_PORT_PAGE, &data);
-	if (data & RTL8309N_QOS_1Q_PORT_PRI_HIGH)
+	if (data & RTL8309N_QOS_1Q_PORT_PRI_UPPER)
 		return RT_ERR_FAILED;
 	*ppri = rtl8309n_field_extract(RTL8309N_QOS_1Q_PORT_PRI, data);
 	return RT_ERR_OK;
@@ -378,9 +378,9 @@ s32 rtl8309n_qos_queueWrr_set(u32 port, struct rtl8309n_qos_queueWeight weights)
 
 	for (q = 0; q <= RTL8309N_QOS_MAX_QUEUE; q += 2)
 		rtl8309n_reg_update(port, RTL8309N_QOS_SCHED_REG + q / 2, RTL8309N_QOS_SCHED_PAGE,
-				    RTL8309N_QOS_SCHED_WEIGHT_LOW | RTL8309N_QOS_SCHED_WEIGHT_HIGH,
-				    rtl8309n_field_prep(RTL8309N_QOS_SCHED_WEIGHT_LOW, w[q]) |
-				    rtl8309n_field_prep(RTL8309N_QOS_SCHED_WEIGHT_HIGH, w[q + 1]));
+				    RTL8309N_QOS_SCHED_WEIGHT_EVEN | RTL8309N_QOS_SCHED_WEIGHT_ODD,
+				    rtl8309n_field_prep(RTL8309N_QOS_SCHED_WEIGHT_EVEN, w[q]) |
+				    rtl8309n_field_prep(RTL8309N_QOS_SCHED_WEIGHT_ODD, w[q + 1]));
 	return RT_ERR_OK;
 }
 
@@ -395,9 +395,9 @@ s32 rtl8309n_qos_queueWrr_get(u32 port, struct rtl8309n_qos_queueWeight *pweight
 	for (q = 0; q <= RTL8309N_QOS_MAX_QUEUE; q += 2) {
 		rtl8309n_reg_get(port, RTL8309N_QOS_SCHED_REG + q / 2, RTL8309N_QOS_SCHED_PAGE,
 				 &data);
-		pweights->weight[q] = rtl8309n_field_extract(RTL8309N_QOS_SCHED_WEIGHT_LOW, data);
+		pweights->weight[q] = rtl8309n_field_extract(RTL8309N_QOS_SCHED_WEIGHT_EVEN, data);
 		pweights->weight[q + 1] =
-			rtl8309n_field_extract(RTL8309N_QOS_SCHED_WEIGHT_HIGH, data);
+			rtl8309n_field_extract(RTL8309N_QOS_SCHED_WEIGHT_ODD, data);
 	}
 	return RT_ERR_OK;
 }

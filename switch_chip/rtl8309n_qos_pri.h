@@ -64,15 +64,15 @@
 /* 802.1Q port priority: this library uses 0..3 only */
 #define RTL8309N_QOS_1Q_PORT_PRI_REG		18
 #define   RTL8309N_QOS_1Q_PORT_PRI		0x0003
-#define   RTL8309N_QOS_1Q_PORT_PRI_HIGH		0x0004	/* priorities 4..7 */
+#define   RTL8309N_QOS_1Q_PORT_PRI_UPPER	0x0004	/* priorities 4..7 */
 
 /* Queue scheduler: queues 2q and 2q + 1 in (port, 17 + q, 9) */
 #define RTL8309N_QOS_SCHED_PAGE			9
 #define RTL8309N_QOS_SCHED_REG			17
-#define   RTL8309N_QOS_SCHED_WEIGHT_LOW		0x007F	/* WRR weight of queue 2q */
-#define   RTL8309N_QOS_SCHED_STRICT_LOW		0x0080
-#define   RTL8309N_QOS_SCHED_WEIGHT_HIGH	0x7F00	/* WRR weight of queue 2q + 1 */
-#define   RTL8309N_QOS_SCHED_STRICT_HIGH	0x8000
+#define   RTL8309N_QOS_SCHED_WEIGHT_EVEN	0x007F	/* WRR weight of queue 2q */
+#define   RTL8309N_QOS_SCHED_STRICT_EVEN	0x0080
+#define   RTL8309N_QOS_SCHED_WEIGHT_ODD		0x7F00	/* WRR weight of queue 2q + 1 */
+#define   RTL8309N_QOS_SCHED_STRICT_ODD		0x8000
 
 #define RTL8309N_QOS_MAX_PRI		3	/* internal priorities 0..3 */
 #define RTL8309N_QOS_MAX_QUEUE		3
