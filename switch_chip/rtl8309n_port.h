@@ -19,6 +19,11 @@
 #define RTL8309N_PORT_ISO_REG		16
 #define   RTL8309N_PORT_ISO_MASK	0x01FF	/* ports this one may forward to */
 
+/* Negotiation state, per port: (port, 22, 0); read by the switch device's link report */
+#define RTL8309N_PORT_NWAY_PAGE		0
+#define RTL8309N_PORT_NWAY_REG		22
+#define   RTL8309N_PORT_NWAY_ON		0x0040	/* the port runs auto-negotiation */
+
 /* Interface mode of the MAC port: (3, 16, 17) */
 #define RTL8309N_EXT0_MODE_ADDR		3
 #define RTL8309N_EXT0_MODE_REG		16

@@ -21,10 +21,11 @@
 #define   RTL8309N_DOT1X_PORT_DIR	0x0004
 #define   RTL8309N_DOT1X_PORT_MAC_EN	0x0008
 
-/* 802.1X global: (0, 16, 15); bit 0 is the abnormal-packet trap of type 1 */
+/* 802.1X global: (0, 16, 15) */
 #define RTL8309N_DOT1X_GLB_ADDR		0
 #define RTL8309N_DOT1X_GLB_PAGE		15
 #define RTL8309N_DOT1X_GLB_REG		16
+#define   RTL8309N_DOT1X_GLB_ABNORMAL1_TRAP	0x0001	/* abnormal type 1 (and unauthorised): 1 trap */
 #define   RTL8309N_DOT1X_GLB_MAC_DIR	0x0002
 
 #define RTL8309N_DOT1X_UNAUTH_TYPE	1	/* unauthorised action: abnormal-packet type 1 */
