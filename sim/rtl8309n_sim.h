@@ -18,7 +18,7 @@
 #ifndef RTL8309N_SIM_H
 #define RTL8309N_SIM_H
 
-#include "../switch_chip/rtl8309n_types.h"
+#include "rtl8309n_types.h"
 
 #define SIM_NUM_ADDR		9	/* SMI addresses 0..8 */
 #define SIM_NUM_PHY		8	/* embedded PHYs at addresses 0..7 */

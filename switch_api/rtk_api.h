@@ -12,7 +12,7 @@
 #ifndef RTK_API_H
 #define RTK_API_H
 
-#include "../switch_chip/rtl8309n_asicdrv.h"
+#include "rtl8309n_asicdrv.h"
 
 typedef s32 rtk_api_ret_t;	/* RT_ERR_* result code */
 typedef u32 rtk_port_t;		/* port number 0..8 */

@@ -157,7 +157,7 @@ static rtk_api_ret_t dot1x_auth_mark(const u8 *mac, u32 fid, u32 auth)
 		idx = bucket + (u32)way * RTL8309N_L2_BUCKET_NUM;
 		if (rtl8309n_l2_ucastEntry_get(idx, &entry) != RT_ERR_OK)
 			return RT_ERR_FAILED;
-		if (rtk_mac_equal(entry.mac, mac)) {
+		if (rtl8309n_mac_equal(entry.mac, mac)) {
 			entry.auth = auth;
 			return rtk_ret(rtl8309n_l2_ucastEntry_set(idx, &entry));
 		}

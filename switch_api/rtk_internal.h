@@ -82,17 +82,6 @@ static inline rtk_api_ret_t rtk_chk_mac(const u8 *mac, int group, rtk_api_ret_t 
 	return rtl8309n_mac_is_mcast(mac) == group ? RT_ERR_OK : kind_err;
 }
 
-/* The compiler's builtins: this layer has no libc, the kernel has its own. */
-static inline void rtk_mac_copy(u8 *dst, const u8 *src)
-{
-	__builtin_memcpy(dst, src, RTL8309N_MAC_LEN);
-}
-
-static inline int rtk_mac_equal(const u8 *a, const u8 *b)
-{
-	return !__builtin_memcmp(a, b, RTL8309N_MAC_LEN);
-}
-
 /*
  * A plain register write whose result the call does not report: once its
  * checks have passed, such a call always succeeds.

@@ -76,7 +76,7 @@ rtk_api_ret_t rtk_l2_addr_add(const u8 *mac, u32 fid, const rtk_l2_ucastAddr_t *
 	entry.age = l2_age_code(paddr->age);
 	entry.port = paddr->port;
 	entry.fid = paddr->fid;
-	rtk_mac_copy(entry.mac, paddr->mac);
+	rtl8309n_mac_copy(entry.mac, paddr->mac);
 	return l2_ret(rtl8309n_l2_ucastAddr_add(mac, fid, &entry, &idx),
 		      RT_ERR_L2_NO_EMPTY_ENTRY, RT_ERR_FAILED);
 }
@@ -105,7 +105,7 @@ rtk_api_ret_t rtk_l2_addr_get(const u8 *mac, u32 fid, rtk_l2_ucastAddr_t *paddr)
 	paddr->port = entry.port;
 	paddr->fid = entry.fid;
 	paddr->age = entry.age * RTK_L2_AGE_STEP;
-	rtk_mac_copy(paddr->mac, entry.mac);
+	rtl8309n_mac_copy(paddr->mac, entry.mac);
 	return RT_ERR_OK;
 }
 

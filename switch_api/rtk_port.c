@@ -7,12 +7,11 @@
  * advertisement registers on PHY page 0.
  */
 #include "rtk_internal.h"
-#include "../switch_chip/rtl8309n_regs.h"
 
 /* MII control register */
 #define CTRL_SPEED_100		0x2000	/* forced speed: 100 Mbit/s, else 10 */
-#define CTRL_ANEG_ENABLE	(1u << RTL8309N_MII_CTRL_ANEN_BIT)
-#define CTRL_ANEG_RESTART	(1u << RTL8309N_MII_CTRL_RESTART_AN_BIT)
+#define CTRL_ANEG_ENABLE	RTL8309N_MII_CTRL_ANEN
+#define CTRL_ANEG_RESTART	RTL8309N_MII_CTRL_RESTART_AN
 #define CTRL_FULL_DUPLEX	0x0100
 #define CTRL_MODE_MASK		(CTRL_SPEED_100 | CTRL_ANEG_ENABLE | CTRL_FULL_DUPLEX)
 

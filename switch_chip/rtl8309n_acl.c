@@ -15,7 +15,6 @@
  * their own.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
 #define ACL_MAX_INDEX		(RTL8309N_ACL_ENTRY_NUM - 1)
 #define ACL_MAX_PROTO		3
@@ -24,16 +23,24 @@
 static const u8 acl_code_to_chip[RTL8309N_ACL_ACT_MAX + 1] = { 1, 0, 2, 0, 3 };
 static const u8 acl_chip_to_code[4] = { 3, 0, 2, 4 };
 
+#define ACL_FLAG(reg, mask)						\
+	RTL8309N_FIELD(RTL8309N_ACL_ADDR, reg, RTL8309N_ACL_PAGE, mask, RTL8309N_FIELD_FLAG,	\
+		       RTL8309N_GLOBAL)
+
+static const struct rtl8309n_field acl_access_en =
+	ACL_FLAG(RTL8309N_ACL_ACCESS_REG, RTL8309N_ACL_ACCESS_EN);
+static const struct rtl8309n_field acl_cmd_read =
+	ACL_FLAG(RTL8309N_ACL_CMD_REG, RTL8309N_ACL_CMD_READ);
+
 static void acl_access(u32 on)
 {
-	rtl8309n_regbit_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_ACCESS_REG, RTL8309N_ACL_ACCESS_BIT,
-			    RTL8309N_ACL_PAGE, on);
+	rtl8309n_field_set(&acl_access_en, 0, on);
 }
 
-static void acl_cmd_reg_field(u32 lsb, u32 width, u32 value)
+static void acl_index_select(u32 index)
 {
-	rtl8309n_field_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_CMD_REG, RTL8309N_ACL_PAGE,
-			   lsb, width, value);
+	rtl8309n_bits_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_CMD_REG, RTL8309N_ACL_PAGE,
+			  RTL8309N_ACL_CMD_INDEX, index);
 }
 
 /*
@@ -43,15 +50,9 @@ static void acl_cmd_reg_field(u32 lsb, u32 width, u32 value)
  */
 static s32 acl_command(u32 read)
 {
-	rtl8309n_regbit_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_CMD_REG, RTL8309N_ACL_CMD_READ_BIT,
-			    RTL8309N_ACL_PAGE, read);
+	rtl8309n_field_set(&acl_cmd_read, 0, read);
 	return rtl8309n_cmd_exec(RTL8309N_ACL_ADDR, RTL8309N_ACL_CMD_REG,
-				 RTL8309N_ACL_CMD_BUSY_BIT, RTL8309N_ACL_PAGE);
-}
-
-static u32 acl_field(u32 word, u32 lsb, u32 width)
-{
-	return (word >> lsb) & RTL8309N_FIELD_MASK(width);
+				 rtl8309n_mask_shift(RTL8309N_ACL_CMD_BUSY), RTL8309N_ACL_PAGE);
 }
 
 /* Entry pointer: a NULL one is refused rather than dereferenced. */
@@ -64,21 +65,21 @@ s32 rtl8309n_acl_entry_set(u32 index, const acl_entry *entry)
 	    entry->priority > ACL_MAX_PRI)
 		return RT_ERR_FAILED;
 
-	word = entry->protocol << RTL8309N_ACL_PROTO_LSB |
-	       entry->port << RTL8309N_ACL_PORT_LSB |
-	       (u32)acl_code_to_chip[entry->action] << RTL8309N_ACL_ACT_LSB |
-	       entry->priority << RTL8309N_ACL_PRI_LSB;
+	word = rtl8309n_field_prep(RTL8309N_ACL_FIELDS_PROTO, entry->protocol) |
+	       rtl8309n_field_prep(RTL8309N_ACL_FIELDS_PORT, entry->port) |
+	       rtl8309n_field_prep(RTL8309N_ACL_FIELDS_ACT, acl_code_to_chip[entry->action]) |
+	       rtl8309n_field_prep(RTL8309N_ACL_FIELDS_PRI, entry->priority);
 
 	acl_access(1);
 	rtl8309n_reg_get(RTL8309N_ACL_WRITE_ADDR, RTL8309N_ACL_WRITE_REG, RTL8309N_ACL_WRITE_PAGE,
 			 &mark);
 	rtl8309n_reg_set(RTL8309N_ACL_WRITE_ADDR, RTL8309N_ACL_WRITE_REG, RTL8309N_ACL_WRITE_PAGE,
 			 (u16)(mark | RTL8309N_ACL_WRITE_BITS));
-	acl_cmd_reg_field(RTL8309N_ACL_CMD_INDEX_LSB, RTL8309N_ACL_CMD_INDEX_WIDTH, index);
+	acl_index_select(index);
 	rtl8309n_reg_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_DATA_REG, RTL8309N_ACL_PAGE,
 			 (u16)(entry->data & 0xFFFF));
-	rtl8309n_field_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_FIELDS_REG, RTL8309N_ACL_PAGE, 0,
-			   RTL8309N_ACL_FIELDS_WIDTH, word);
+	rtl8309n_bits_set(RTL8309N_ACL_ADDR, RTL8309N_ACL_FIELDS_REG, RTL8309N_ACL_PAGE,
+			  RTL8309N_ACL_FIELDS, word);
 	if (acl_command(0) != RT_ERR_OK)
 		return RT_ERR_FAILED;
 	acl_access(0);
@@ -93,16 +94,15 @@ s32 rtl8309n_acl_entry_get(u32 index, acl_entry *entry)
 		return RT_ERR_FAILED;
 
 	acl_access(1);
-	acl_cmd_reg_field(RTL8309N_ACL_CMD_INDEX_LSB, RTL8309N_ACL_CMD_INDEX_WIDTH, index);
+	acl_index_select(index);
 	if (acl_command(1) != RT_ERR_OK)
 		return RT_ERR_FAILED;
 
 	rtl8309n_reg_get(RTL8309N_ACL_ADDR, RTL8309N_ACL_FIELDS_REG, RTL8309N_ACL_PAGE, &word);
-	entry->priority = acl_field(word, RTL8309N_ACL_PRI_LSB, RTL8309N_ACL_PRI_WIDTH);
-	entry->port = acl_field(word, RTL8309N_ACL_PORT_LSB, RTL8309N_ACL_PORT_WIDTH);
-	entry->action = acl_chip_to_code[acl_field(word, RTL8309N_ACL_ACT_LSB,
-						   RTL8309N_ACL_ACT_WIDTH)];
-	entry->protocol = acl_field(word, RTL8309N_ACL_PROTO_LSB, RTL8309N_ACL_PROTO_WIDTH);
+	entry->priority = rtl8309n_field_extract(RTL8309N_ACL_FIELDS_PRI, word);
+	entry->port = rtl8309n_field_extract(RTL8309N_ACL_FIELDS_PORT, word);
+	entry->action = acl_chip_to_code[rtl8309n_field_extract(RTL8309N_ACL_FIELDS_ACT, word)];
+	entry->protocol = rtl8309n_field_extract(RTL8309N_ACL_FIELDS_PROTO, word);
 	rtl8309n_reg_get(RTL8309N_ACL_ADDR, RTL8309N_ACL_DATA_REG, RTL8309N_ACL_PAGE, &data);
 	entry->data = data & 0xFFFF;
 	acl_access(0);

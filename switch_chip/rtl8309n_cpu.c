@@ -5,79 +5,134 @@
  * (2, 16, 17), apart from the per-port tag insertion mask in (2, 17, 17).
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
-#define CTRL(lsb, width, pol)						\
-	{ RTL8309N_CPU_ADDR, RTL8309N_CPU_CTRL_REG, RTL8309N_CPU_PAGE,	\
-	  lsb, width, pol, RTL8309N_GLOBAL }
+#define CPU_CTRL_FIELD(mask, kind)					\
+	RTL8309N_FIELD(RTL8309N_CPU_ADDR, RTL8309N_CPU_CTRL_REG, RTL8309N_CPU_PAGE,	\
+		       mask, kind, RTL8309N_GLOBAL)
 
-#define HIGH	RTL8309N_ACTIVE_HIGH
-#define LOW	RTL8309N_ACTIVE_LOW
-
-static const struct rtl8309n_regfield cpu_enable = CTRL(RTL8309N_CPU_DISABLE_BIT, 1, LOW);
-static const struct rtl8309n_regfield cpu_port_number =
-	CTRL(RTL8309N_CPU_PORT_LSB, RTL8309N_CPU_PORT_WIDTH, HIGH);
-static const struct rtl8309n_regfield cpu_tag_aware = CTRL(RTL8309N_CPU_TAG_AWARE_BIT, 1, HIGH);
-static const struct rtl8309n_regfield cpu_tag_insert = CTRL(RTL8309N_CPU_TAG_INSERT_BIT, 1, HIGH);
-static const struct rtl8309n_regfield cpu_tag_remove = CTRL(RTL8309N_CPU_TAG_REMOVE_BIT, 1, HIGH);
-static const struct rtl8309n_regfield cpu_noncpu_rxtag =
-	CTRL(RTL8309N_CPU_NONCPU_RXTAG_BIT, 1, HIGH);
-static const struct rtl8309n_regfield cpu_learn = CTRL(RTL8309N_CPU_LEARN_BIT, 1, HIGH);
-static const struct rtl8309n_regfield cpu_check_crc = CTRL(RTL8309N_CPU_NO_CRC_BIT, 1, LOW);
+static const struct rtl8309n_field cpu_enable =
+	CPU_CTRL_FIELD(RTL8309N_CPU_CTRL_DISABLE, RTL8309N_FIELD_FLAG_INV);
+static const struct rtl8309n_field cpu_port_number =
+	CPU_CTRL_FIELD(RTL8309N_CPU_CTRL_PORT, RTL8309N_FIELD_VALUE);
+static const struct rtl8309n_field cpu_tag_aware =
+	CPU_CTRL_FIELD(RTL8309N_CPU_CTRL_TAG_AWARE, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field cpu_tag_insert =
+	CPU_CTRL_FIELD(RTL8309N_CPU_CTRL_TAG_INSERT, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field cpu_tag_remove =
+	CPU_CTRL_FIELD(RTL8309N_CPU_CTRL_TAG_REMOVE, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field cpu_noncpu_rxtag =
+	CPU_CTRL_FIELD(RTL8309N_CPU_CTRL_NONCPU_RXTAG, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field cpu_learn =
+	CPU_CTRL_FIELD(RTL8309N_CPU_CTRL_LEARN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field cpu_check_crc =
+	CPU_CTRL_FIELD(RTL8309N_CPU_CTRL_NO_CRC, RTL8309N_FIELD_FLAG_INV);
 
 /* Bit p of the insertion mask for ports 0..8; "port" 9 is accepted, bitless. */
-static const struct rtl8309n_regfield cpu_insert_mask[] = {
-	{ RTL8309N_CPU_ADDR, RTL8309N_CPU_INSERT_MASK_REG, RTL8309N_CPU_PAGE, 0, 1,
-	  HIGH, RTL8309N_PORT_BIT },
+static const struct rtl8309n_field cpu_insert_mask[] = {
+	RTL8309N_FIELD(RTL8309N_CPU_ADDR, RTL8309N_CPU_INSERT_MASK_REG, RTL8309N_CPU_PAGE,
+		       RTL8309N_CPU_INSERT_MASK_PORT(0), RTL8309N_FIELD_FLAG, RTL8309N_PORT_BIT),
 	RTL8309N_NO_FIELD(RTL8309N_GLOBAL),
 };
 
-static const struct rtl8309n_regfield *insert_mask_field(u32 port)
+static const struct rtl8309n_field *insert_mask_field(u32 port)
 {
 	return &cpu_insert_mask[port == RTL8309N_CPU_PORT_NONE];
 }
 
-RTL8309N_GLOBAL_ACCESSORS(cpu_enable, s32, cpu_enable)
-RTL8309N_GLOBAL_ACCESSORS(cpu_cpuTagAwareEnable, s32, cpu_tag_aware)
-RTL8309N_GLOBAL_ACCESSORS(cpu_tagInsertEnable, s32, cpu_tag_insert)
-RTL8309N_GLOBAL_ACCESSORS(cpu_tagRemoveEnable, s32, cpu_tag_remove)
-RTL8309N_GLOBAL_ACCESSORS(cpu_learnEnable, s32, cpu_learn)
-RTL8309N_GLOBAL_ACCESSORS(cpu_checkCrcEnable, s32, cpu_check_crc)
+s32 rtl8309n_cpu_enable_set(s32 enabled)
+{
+	return rtl8309n_field_set(&cpu_enable, 0, (u32)enabled);
+}
+
+s32 rtl8309n_cpu_enable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&cpu_enable, 0, penabled);
+}
 
 s32 rtl8309n_cpu_portNumber_set(u32 port)
 {
 	if (port > RTL8309N_CPU_PORT_NONE)
 		return RT_ERR_FAILED;
-	return rtl8309n_regfield_set(&cpu_port_number, 0, port);
+	return rtl8309n_field_set(&cpu_port_number, 0, port);
 }
 
 s32 rtl8309n_cpu_portNumber_get(u32 *pport)
 {
-	return rtl8309n_regfield_get(&cpu_port_number, 0, pport);
+	return rtl8309n_field_get(&cpu_port_number, 0, pport);
+}
+
+s32 rtl8309n_cpu_cpuTagAwareEnable_set(s32 enabled)
+{
+	return rtl8309n_field_set(&cpu_tag_aware, 0, (u32)enabled);
+}
+
+s32 rtl8309n_cpu_cpuTagAwareEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&cpu_tag_aware, 0, penabled);
+}
+
+s32 rtl8309n_cpu_tagInsertEnable_set(s32 enabled)
+{
+	return rtl8309n_field_set(&cpu_tag_insert, 0, (u32)enabled);
+}
+
+s32 rtl8309n_cpu_tagInsertEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&cpu_tag_insert, 0, penabled);
+}
+
+s32 rtl8309n_cpu_tagRemoveEnable_set(s32 enabled)
+{
+	return rtl8309n_field_set(&cpu_tag_remove, 0, (u32)enabled);
+}
+
+s32 rtl8309n_cpu_tagRemoveEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&cpu_tag_remove, 0, penabled);
 }
 
 s32 rtl8309n_cpu_nonCpuPortRxCpuTag_set(u32 action)
 {
-	return rtl8309n_regfield_code_set(&cpu_noncpu_rxtag, 0, action,
-					  RTL8309N_CPU_NONCPU_RXTAG_ACT_0,
-					  RTL8309N_CPU_NONCPU_RXTAG_ACT_3);
+	return rtl8309n_field_code_set(&cpu_noncpu_rxtag, 0, action,
+				       RTL8309N_CPU_NONCPU_RXTAG_ACT_0,
+				       RTL8309N_CPU_NONCPU_RXTAG_ACT_3);
 }
 
 s32 rtl8309n_cpu_nonCpuPortRxCpuTag_get(u32 *paction)
 {
-	return rtl8309n_regfield_code_get(&cpu_noncpu_rxtag, 0, paction,
-					  RTL8309N_CPU_NONCPU_RXTAG_ACT_0,
-					  RTL8309N_CPU_NONCPU_RXTAG_ACT_3);
+	return rtl8309n_field_code_get(&cpu_noncpu_rxtag, 0, paction,
+				       RTL8309N_CPU_NONCPU_RXTAG_ACT_0,
+				       RTL8309N_CPU_NONCPU_RXTAG_ACT_3);
+}
+
+s32 rtl8309n_cpu_learnEnable_set(s32 enabled)
+{
+	return rtl8309n_field_set(&cpu_learn, 0, (u32)enabled);
+}
+
+s32 rtl8309n_cpu_learnEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&cpu_learn, 0, penabled);
+}
+
+s32 rtl8309n_cpu_checkCrcEnable_set(s32 enabled)
+{
+	return rtl8309n_field_set(&cpu_check_crc, 0, (u32)enabled);
+}
+
+s32 rtl8309n_cpu_checkCrcEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&cpu_check_crc, 0, penabled);
 }
 
 s32 rtl8309n_cpu_tagInsertMask_set(u32 port, s32 enabled)
 {
-	return rtl8309n_regfield_set(insert_mask_field(port), port, (u32)enabled);
+	return rtl8309n_field_set(insert_mask_field(port), port, (u32)enabled);
 }
 
 s32 rtl8309n_cpu_tagInsertMask_get(u32 port, u32 *penabled)
 {
-	return rtl8309n_regfield_get(insert_mask_field(port), port, penabled);
+	return rtl8309n_field_get(insert_mask_field(port), port, penabled);
 }
 
 s32 rtl8309n_cpu_port_get(u32 *pport, u32 *ptag)

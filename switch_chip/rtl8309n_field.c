@@ -4,9 +4,8 @@
  */
 #include "rtl8309n_internal.h"
 
-s32 rtl8309n_field_set(u32 phyad, u32 regad, u32 npage, u32 lsb, u32 width, u32 value)
+s32 rtl8309n_bits_set(u32 phyad, u32 regad, u32 npage, u32 mask, u32 value)
 {
-	u32 mask = RTL8309N_FIELD_MASK(width) << lsb;
 	u32 data = 0;
 	s32 ret;
 
@@ -15,11 +14,11 @@ s32 rtl8309n_field_set(u32 phyad, u32 regad, u32 npage, u32 lsb, u32 width, u32 
 	ret = rtl8309n_reg_get(phyad, regad, npage, &data);
 	if (ret != RT_ERR_OK)
 		return ret;
-	data = (data & ~mask) | ((value << lsb) & mask);
+	data = (data & ~mask) | rtl8309n_field_prep(mask, value);
 	return rtl8309n_reg_set(phyad, regad, npage, (u16)data);
 }
 
-s32 rtl8309n_field_get(u32 phyad, u32 regad, u32 npage, u32 lsb, u32 width, u32 *pvalue)
+s32 rtl8309n_bits_get(u32 phyad, u32 regad, u32 npage, u32 mask, u32 *pvalue)
 {
 	u32 data = 0;
 	s32 ret;
@@ -27,7 +26,7 @@ s32 rtl8309n_field_get(u32 phyad, u32 regad, u32 npage, u32 lsb, u32 width, u32 
 	ret = rtl8309n_reg_get(phyad, regad, npage, &data);
 	if (ret != RT_ERR_OK)
 		return ret;
-	*pvalue = (data >> lsb) & RTL8309N_FIELD_MASK(width);
+	*pvalue = rtl8309n_field_extract(mask, data);
 	return RT_ERR_OK;
 }
 
@@ -115,65 +114,79 @@ s32 rtl8309n_reg_update(u32 phyad, u32 regad, u32 npage, u32 clear, u32 bits)
 }
 
 /* Coordinates of @f for @port; RT_ERR_FAILED if the field or port is refused. */
-static s32 regfield_locate(const struct rtl8309n_regfield *f, u32 port, u32 *phyad,
-			   u32 *regad, u32 *lsb)
+static s32 field_locate(const struct rtl8309n_field *f, u32 port, u32 *phyad,
+			u32 *regad, u32 *mask)
 {
 	if (!f || (f->index != RTL8309N_GLOBAL && port > RTL8309N_MAX_PORT))
 		return RT_ERR_FAILED;
 
 	*phyad = f->index == RTL8309N_PORT_ADDR ? port : f->phyad;
 	*regad = f->regad + (f->index == RTL8309N_PORT_REG ? port : 0);
-	*lsb = f->lsb + (f->index == RTL8309N_PORT_BIT ? port : 0);
+	*mask = (u32)f->mask << (f->index == RTL8309N_PORT_BIT ? port : 0);
 	return RT_ERR_OK;
 }
 
-s32 rtl8309n_regfield_set(const struct rtl8309n_regfield *f, u32 port, u32 value)
+static enum rtl8309n_polarity field_polarity(const struct rtl8309n_field *f)
 {
-	u32 phyad, regad, lsb;
-
-	if (regfield_locate(f, port, &phyad, &regad, &lsb) != RT_ERR_OK)
-		return RT_ERR_FAILED;
-	if (f->width == 0)
-		return RT_ERR_OK;
-	if (f->width == 1)
-		return rtl8309n_flag_set(phyad, regad, lsb, f->npage, value, f->pol);
-	if (value > RTL8309N_FIELD_MASK(f->width))
-		return RT_ERR_FAILED;
-	return rtl8309n_field_set(phyad, regad, f->npage, lsb, f->width, value);
+	return f->kind == RTL8309N_FIELD_FLAG_INV ? RTL8309N_ACTIVE_LOW : RTL8309N_ACTIVE_HIGH;
 }
 
-s32 rtl8309n_regfield_get(const struct rtl8309n_regfield *f, u32 port, u32 *pvalue)
+s32 rtl8309n_field_set(const struct rtl8309n_field *f, u32 port, u32 value)
 {
-	u32 phyad, regad, lsb;
+	u32 phyad, regad, mask;
 
-	if (regfield_locate(f, port, &phyad, &regad, &lsb) != RT_ERR_OK || !pvalue)
+	if (field_locate(f, port, &phyad, &regad, &mask) != RT_ERR_OK)
 		return RT_ERR_FAILED;
-	if (f->width == 0) {
+	switch (f->kind) {
+	case RTL8309N_FIELD_NONE:
+		return RT_ERR_OK;
+	case RTL8309N_FIELD_FLAG:
+	case RTL8309N_FIELD_FLAG_INV:
+		return rtl8309n_flag_set(phyad, regad, rtl8309n_mask_shift(mask), f->npage,
+					 value, field_polarity(f));
+	default:
+		if (value > rtl8309n_field_extract(mask, mask))
+			return RT_ERR_FAILED;
+		return rtl8309n_bits_set(phyad, regad, f->npage, mask, value);
+	}
+}
+
+s32 rtl8309n_field_get(const struct rtl8309n_field *f, u32 port, u32 *pvalue)
+{
+	u32 phyad, regad, mask;
+
+	if (field_locate(f, port, &phyad, &regad, &mask) != RT_ERR_OK || !pvalue)
+		return RT_ERR_FAILED;
+	switch (f->kind) {
+	case RTL8309N_FIELD_NONE:
 		*pvalue = 0;
 		return RT_ERR_OK;
+	case RTL8309N_FIELD_FLAG:
+	case RTL8309N_FIELD_FLAG_INV:
+		return rtl8309n_flag_get(phyad, regad, rtl8309n_mask_shift(mask), f->npage,
+					 pvalue, field_polarity(f));
+	default:
+		return rtl8309n_bits_get(phyad, regad, f->npage, mask, pvalue);
 	}
-	if (f->width == 1)
-		return rtl8309n_flag_get(phyad, regad, lsb, f->npage, pvalue, f->pol);
-	return rtl8309n_field_get(phyad, regad, f->npage, lsb, f->width, pvalue);
 }
 
-s32 rtl8309n_regfield_code_set(const struct rtl8309n_regfield *f, u32 port, u32 code,
-			       u32 code_set, u32 code_clear)
+s32 rtl8309n_field_code_set(const struct rtl8309n_field *f, u32 port, u32 code,
+			    u32 code_set, u32 code_clear)
 {
 	if (code != code_set && code != code_clear)
 		return RT_ERR_FAILED;
-	return rtl8309n_regfield_set(f, port, code == code_set);
+	return rtl8309n_field_set(f, port, code == code_set);
 }
 
-s32 rtl8309n_regfield_code_get(const struct rtl8309n_regfield *f, u32 port, u32 *pcode,
-			       u32 code_set, u32 code_clear)
+s32 rtl8309n_field_code_get(const struct rtl8309n_field *f, u32 port, u32 *pcode,
+			    u32 code_set, u32 code_clear)
 {
 	u32 bit = 0;
 	s32 ret;
 
 	if (!pcode)
 		return RT_ERR_FAILED;
-	ret = rtl8309n_regfield_get(f, port, &bit);
+	ret = rtl8309n_field_get(f, port, &bit);
 	if (ret != RT_ERR_OK)
 		return ret;
 	*pcode = bit ? code_set : code_clear;
@@ -187,9 +200,9 @@ s32 rtl8309n_reg_set_max(u32 phyad, u32 regad, u32 npage, u32 value, u32 max)
 	return rtl8309n_reg_set(phyad, regad, npage, (u16)value);
 }
 
-s32 rtl8309n_reg_get_low(u32 phyad, u32 regad, u32 npage, u32 width, u32 *pvalue)
+s32 rtl8309n_reg_get_masked(u32 phyad, u32 regad, u32 npage, u32 mask, u32 *pvalue)
 {
 	if (!pvalue)
 		return RT_ERR_FAILED;
-	return rtl8309n_field_get(phyad, regad, npage, 0, width, pvalue);
+	return rtl8309n_bits_get(phyad, regad, npage, mask, pvalue);
 }

@@ -10,21 +10,39 @@
 
 #include "rtl8309n_asicdrv.h"
 
-#define RTL8309N_FIELD_MASK(width)	((width) >= 32 ? 0xFFFFFFFFu : ((1u << (width)) - 1))
+/*
+ * FIELD_PREP()/FIELD_GET() for masks known only at run time (a field of a
+ * per-port bit, a table picked by selector).  @mask must not be 0.
+ */
+static inline u32 rtl8309n_mask_shift(u32 mask)
+{
+	return (u32)__builtin_ctz(mask);
+}
+
+static inline u32 rtl8309n_field_prep(u32 mask, u32 value)
+{
+	return (value << rtl8309n_mask_shift(mask)) & mask;
+}
+
+static inline u32 rtl8309n_field_extract(u32 mask, u32 reg)
+{
+	return (reg & mask) >> rtl8309n_mask_shift(mask);
+}
+
+/*
+ * Read-modify-write of the bits of @mask in a switch register: @value is
+ * the field's value (not yet shifted), cut to the mask; range checks
+ * belong to the caller.
+ */
+s32 rtl8309n_bits_set(u32 phyad, u32 regad, u32 npage, u32 mask, u32 value);
+/* The field of @mask, shifted down. */
+s32 rtl8309n_bits_get(u32 phyad, u32 regad, u32 npage, u32 mask, u32 *pvalue);
 
 /* Polarity of a chip bit that carries an enable flag. */
 enum rtl8309n_polarity {
 	RTL8309N_ACTIVE_HIGH = 0,	/* bit set means enabled */
 	RTL8309N_ACTIVE_LOW = 1,	/* bit set means disabled */
 };
-
-/*
- * Read-modify-write of @width bits at @lsb of a switch register.  @value is
- * masked to the field; range checks belong to the caller.
- */
-s32 rtl8309n_field_set(u32 phyad, u32 regad, u32 npage, u32 lsb, u32 width, u32 value);
-/* Read @width bits at @lsb of a switch register. */
-s32 rtl8309n_field_get(u32 phyad, u32 regad, u32 npage, u32 lsb, u32 width, u32 *pvalue);
 
 /*
  * Enable flag kept in one chip bit: exactly 1 enables, anything else
@@ -52,112 +70,84 @@ s32 rtl8309n_poll_bit_clear(u32 phyad, u32 regad, u32 bit, u32 npage, u32 max_re
 s32 rtl8309n_reg_update(u32 phyad, u32 regad, u32 npage, u32 clear, u32 bits);
 
 /*
- * A register field as the block files' tables name it.  Per-port settings
- * take the port number as SMI address, as offset to the register or as
- * offset to the bit; RTL8309N_GLOBAL fields ignore the port.
+ * A value kept in a register of its own: the setter refuses a value above
+ * @max and writes the whole register; the getter refuses a null pointer
+ * and reports the bits of @mask.  Both fail before any bus access.
+ */
+s32 rtl8309n_reg_set_max(u32 phyad, u32 regad, u32 npage, u32 value, u32 max);
+s32 rtl8309n_reg_get_masked(u32 phyad, u32 regad, u32 npage, u32 mask, u32 *pvalue);
+
+/* ---- Register fields ---- */
+
+/* What a field holds, and so how its accessors treat a value. */
+enum rtl8309n_field_kind {
+	/*
+	 * A selector the chip keeps no bit for: setting it changes nothing,
+	 * reading it reports 0.
+	 */
+	RTL8309N_FIELD_NONE = 0,
+	/* A number: refused above what the mask holds. */
+	RTL8309N_FIELD_VALUE,
+	/* An enable flag in one bit: exactly 1 enables, anything else disables. */
+	RTL8309N_FIELD_FLAG,
+	/* The same, kept by the chip as a disable bit. */
+	RTL8309N_FIELD_FLAG_INV,
+};
+
+/*
+ * How a per-port field moves with the port: the port number is its SMI
+ * address, an offset to its register or an offset to its bits.  Chip-wide
+ * fields ignore the port.
  */
 enum rtl8309n_port_index {
 	RTL8309N_GLOBAL = 0,
 	RTL8309N_PORT_ADDR,	/* SMI address = port */
 	RTL8309N_PORT_REG,	/* register = regad + port */
-	RTL8309N_PORT_BIT,	/* lowest bit = lsb + port */
+	RTL8309N_PORT_BIT,	/* mask << port */
 };
 
-struct rtl8309n_regfield {
+/* A register field as a block's register table names it. */
+struct rtl8309n_field {
 	u8 phyad;	/* unused with RTL8309N_PORT_ADDR */
 	u8 regad;
 	u8 npage;
-	u8 lsb;
-	u8 width;	/* 1: an enable flag; 0: no bit (see below) */
-	u8 pol;		/* enum rtl8309n_polarity, for enable flags */
+	u8 kind;	/* enum rtl8309n_field_kind */
 	u8 index;	/* enum rtl8309n_port_index */
+	u16 mask;	/* the field's bits for port 0 */
 };
 
-/* A chip-wide field; one bit wide, an active-high enable flag. */
-#define RTL8309N_GLOBAL_FIELD(addr, reg, page, lsb, width)	\
-	{ addr, reg, page, lsb, width, RTL8309N_ACTIVE_HIGH, RTL8309N_GLOBAL }
+/* The one constructor of a field: coordinates, mask, kind, port index. */
+#define RTL8309N_FIELD(addr, reg, page, msk, knd, idx)			\
+	{ .phyad = (addr), .regad = (reg), .npage = (page), .mask = (msk),	\
+	  .kind = (knd), .index = (idx) }
 
-/*
- * Some selectors are accepted although the chip keeps no bit for them:
- * writing such a "field" changes nothing, reading it reports 0.
- */
-#define RTL8309N_NO_FIELD(idx)	{ .width = 0, .index = (idx) }
-
-/*
- * A value kept in a register of its own: the setter refuses a value above
- * @max and writes the whole register; the getter refuses a null pointer
- * and reports the low @width bits.  Both fail before any bus access.
- */
-s32 rtl8309n_reg_set_max(u32 phyad, u32 regad, u32 npage, u32 value, u32 max);
-s32 rtl8309n_reg_get_low(u32 phyad, u32 regad, u32 npage, u32 width, u32 *pvalue);
-
-/* A one-bit field of a fixed register: an enable flag or a two-code bit. */
-#define RTL8309N_GLOBAL_BIT(addr, reg, page, bit, polarity)			\
-	{ .phyad = (addr), .regad = (reg), .npage = (page), .lsb = (bit),	\
-	  .width = 1, .pol = (polarity), .index = RTL8309N_GLOBAL }
+/* A selector without a chip bit (see RTL8309N_FIELD_NONE). */
+#define RTL8309N_NO_FIELD(idx)	{ .kind = RTL8309N_FIELD_NONE, .index = (idx) }
 
 /*
  * Field accessors.  They refuse, before any bus access, a NULL field (a
  * selector out of range, see RTL8309N_PICK), a port above RTL8309N_MAX_PORT
- * for per-port fields, a value wider than a multi-bit field, and a NULL
- * result pointer.  A one-bit field is an enable flag: exactly 1 enables,
- * anything else disables, through rtl8309n_flag_set/get with its polarity.
- * Multi-bit fields go through rtl8309n_field_set/get.
+ * for per-port fields, a value wider than a value field, and a NULL result
+ * pointer.  Flags go through rtl8309n_flag_set/get with their polarity,
+ * values through rtl8309n_bits_set/get.
  */
-s32 rtl8309n_regfield_set(const struct rtl8309n_regfield *f, u32 port, u32 value);
-s32 rtl8309n_regfield_get(const struct rtl8309n_regfield *f, u32 port, u32 *pvalue);
+s32 rtl8309n_field_set(const struct rtl8309n_field *f, u32 port, u32 value);
+s32 rtl8309n_field_get(const struct rtl8309n_field *f, u32 port, u32 *pvalue);
 
 /*
  * A one-bit field that selects between two codes (packet actions and the
  * like): @code_set when the bit is set, @code_clear when it is clear.  Any
  * other code is refused before any bus access.
  */
-s32 rtl8309n_regfield_code_set(const struct rtl8309n_regfield *f, u32 port, u32 code,
-			       u32 code_set, u32 code_clear);
-s32 rtl8309n_regfield_code_get(const struct rtl8309n_regfield *f, u32 port, u32 *pcode,
-			       u32 code_set, u32 code_clear);
+s32 rtl8309n_field_code_set(const struct rtl8309n_field *f, u32 port, u32 code,
+			    u32 code_set, u32 code_clear);
+s32 rtl8309n_field_code_get(const struct rtl8309n_field *f, u32 port, u32 *pcode,
+			    u32 code_set, u32 code_clear);
 
 #define RTL8309N_ARRAY_SIZE(a)	(sizeof(a) / sizeof((a)[0]))
 /* Entry @sel of a field table, or NULL (refused by the accessors) past its end. */
 #define RTL8309N_PICK(tbl, sel)	\
 	((u32)(sel) < RTL8309N_ARRAY_SIZE(tbl) ? &(tbl)[sel] : NULL)
-
-/*
- * Accessor pairs that are nothing but one field: each defines
- * rtl8309n_<name>_set and rtl8309n_<name>_get (prototypes in
- * rtl8309n_asicdrv.h) with the argument lists given, over @field for @port.
- * A block file lists its plain accessors as one line each, beside its
- * register map; anything with checks or steps of its own is written out.
- */
-#define RTL8309N_FIELD_ACCESSORS(name, set_params, get_params, field, port)	\
-	s32 rtl8309n_##name##_set set_params					\
-	{									\
-		return rtl8309n_regfield_set(field, port, (u32)value);		\
-	}									\
-	s32 rtl8309n_##name##_get get_params					\
-	{									\
-		return rtl8309n_regfield_get(field, port, pvalue);		\
-	}
-
-/* _set(type value), _get(u32 *pvalue): a chip-wide field. */
-#define RTL8309N_GLOBAL_ACCESSORS(name, type, field)				\
-	RTL8309N_FIELD_ACCESSORS(name, (type value), (u32 *pvalue), &(field), 0)
-
-/* _set(u32 port, u32 value), _get(u32 port, u32 *pvalue). */
-#define RTL8309N_PORT_ACCESSORS(name, field)					\
-	RTL8309N_FIELD_ACCESSORS(name, (u32 port, u32 value), (u32 port, u32 *pvalue), \
-				 &(field), port)
-
-/* _set(u32 sel, u32 value), _get(u32 sel, u32 *pvalue): @table[sel]. */
-#define RTL8309N_SEL_ACCESSORS(name, table)					\
-	RTL8309N_FIELD_ACCESSORS(name, (u32 sel, u32 value), (u32 sel, u32 *pvalue), \
-				 RTL8309N_PICK(table, sel), 0)
-
-/* _set(u32 port, u32 sel, u32 value), _get(...): @table[sel - @first]. */
-#define RTL8309N_PORT_SEL_ACCESSORS(name, table, first)			\
-	RTL8309N_FIELD_ACCESSORS(name, (u32 port, u32 sel, u32 value),		\
-				 (u32 port, u32 sel, u32 *pvalue),		\
-				 RTL8309N_PICK(table, sel - (first)), port)
 
 /*
  * Start an indirect command by setting its self-clearing bit, then poll

@@ -3,16 +3,23 @@
  * ISP mode: the WAN port and the MAC address the chip uses on it.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
 /* One past the last port: the chip library lets 9 through. */
 #define ISP_WAN_PORT_MAX	(RTL8309N_MAX_PORT + 1)
 
-static const struct rtl8309n_regfield isp_enable =
-	RTL8309N_GLOBAL_BIT(RTL8309N_ISP_ADDR, RTL8309N_ISP_CTRL_REG, RTL8309N_ISP_PAGE,
-			    RTL8309N_ISP_EN_BIT, RTL8309N_ACTIVE_HIGH);
+static const struct rtl8309n_field isp_enable =
+	RTL8309N_FIELD(RTL8309N_ISP_ADDR, RTL8309N_ISP_CTRL_REG, RTL8309N_ISP_PAGE,
+		       RTL8309N_ISP_CTRL_EN, RTL8309N_FIELD_FLAG, RTL8309N_GLOBAL);
 
-RTL8309N_GLOBAL_ACCESSORS(isp_enable, u32, isp_enable)
+s32 rtl8309n_isp_enable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&isp_enable, 0, enabled);
+}
+
+s32 rtl8309n_isp_enable_get(u32 *pEnabled)
+{
+	return rtl8309n_field_get(&isp_enable, 0, pEnabled);
+}
 
 s32 rtl8309n_isp_mac_set(const u16 *pMac)
 {
@@ -36,12 +43,12 @@ s32 rtl8309n_isp_mac_get(u8 *pMac)
 
 s32 rtl8309n_isp_wanPort_set(u32 port)
 {
-	return rtl8309n_reg_set_max(RTL8309N_ISP_ADDR, RTL8309N_ISP_WAN_REG, RTL8309N_ISP_PAGE, port,
-				    ISP_WAN_PORT_MAX);
+	return rtl8309n_reg_set_max(RTL8309N_ISP_ADDR, RTL8309N_ISP_WAN_REG, RTL8309N_ISP_PAGE,
+				    port, ISP_WAN_PORT_MAX);
 }
 
 s32 rtl8309n_isp_wanPort_get(u32 *pPort)
 {
-	return rtl8309n_reg_get_low(RTL8309N_ISP_ADDR, RTL8309N_ISP_WAN_REG, RTL8309N_ISP_PAGE,
-				    RTL8309N_ISP_WAN_WIDTH, pPort);
+	return rtl8309n_reg_get_masked(RTL8309N_ISP_ADDR, RTL8309N_ISP_WAN_REG, RTL8309N_ISP_PAGE,
+				       RTL8309N_ISP_WAN_PORT, pPort);
 }

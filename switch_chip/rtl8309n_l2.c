@@ -16,12 +16,10 @@
  * short delay there.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
 #define L2_WAY_SHIFT		9
 #define L2_INDEX(hash, way)	(((way) << L2_WAY_SHIFT) | (hash))
 #define L2_HASH_BITS		9
-#define L2_PORTMASK_MAX		0x1FF
 #define L2_SYS_LIMIT_A_MAX	255
 #define L2_SYS_LIMIT_B_MAX	511
 
@@ -62,58 +60,52 @@ static const u8 l2_hash_terms[2][L2_HASH_BITS][L2_HASH_TERMS] = {
 	},
 };
 
-/* The table controls, one field each. */
-enum l2_field_id {
-	L2_F_HASH_MODE,
-	L2_F_CAM,
-	L2_F_LRU,
-	L2_F_FAST_AGING,
-	L2_F_FLUSH,
-	L2_F_DA_BLOCK_ACT,
-	L2_F_SA_BLOCK_ACT,
-	L2_F_AGING,
-	L2_F_DP_MASK,
-	L2_F_UNKNOWN_DA_DROP,
-	L2_F_SYS_LIMIT_B,
-	L2_F_LIMIT_ACT,
-	L2_F_SYS_LIMIT_A,
-	L2_F_SYS_LIMIT_EN,
-	L2_F_SYS_COUNT,
-	L2_F_PORT_LIMIT_EN,
-	L2_F_PORT_LIMIT,
-	L2_F_PORT_COUNT,
-};
+#define L2_CTRL_FIELD(mask, kind)						\
+	RTL8309N_FIELD(RTL8309N_L2_ADDR, RTL8309N_L2_CTRL_REG, RTL8309N_L2_PAGE, mask, kind,	\
+		       RTL8309N_GLOBAL)
+#define L2_GLOBAL_FIELD(reg, mask, kind)					\
+	RTL8309N_FIELD(RTL8309N_L2_ADDR, reg, RTL8309N_L2_PAGE, mask, kind, RTL8309N_GLOBAL)
+#define L2_PORT_FIELD(reg, mask, kind)						\
+	RTL8309N_FIELD(0, reg, RTL8309N_L2_PORT_PAGE, mask, kind, RTL8309N_PORT_ADDR)
 
-#define L2_CTRL_BIT(bit, pol)	\
-	RTL8309N_GLOBAL_BIT(RTL8309N_L2_ADDR, RTL8309N_L2_CTRL_REG, RTL8309N_L2_PAGE, bit, pol)
-#define L2_GLOBAL(reg, lsb, width)	\
-	RTL8309N_GLOBAL_FIELD(RTL8309N_L2_ADDR, reg, RTL8309N_L2_PAGE, lsb, width)
-#define L2_PER_PORT(reg, low, bits)						\
-	{ .regad = (reg), .npage = RTL8309N_L2_PORT_PAGE, .lsb = (low), .width = (bits),	\
-	  .pol = RTL8309N_ACTIVE_HIGH, .index = RTL8309N_PORT_ADDR }
+static const struct rtl8309n_field l2_hash_mode =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_HASH_MODE, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_cam =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_CAM_OFF, RTL8309N_FIELD_FLAG_INV);
+static const struct rtl8309n_field l2_lru =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_LRU, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_fast_aging =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_FAST_AGING, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_flush =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_FLUSH, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_da_block_drop =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_DA_BLOCK_DROP, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_sa_block_drop =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_SA_BLOCK_DROP, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_aging =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_AGING, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_dp_mask =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_DP_MASK, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_unknown_da_drop =
+	L2_CTRL_FIELD(RTL8309N_L2_CTRL_UNKNOWN_DA_KEEP, RTL8309N_FIELD_FLAG_INV);
 
-static const struct rtl8309n_regfield l2_fields[] = {
-	[L2_F_HASH_MODE] = L2_CTRL_BIT(RTL8309N_L2_HASH_MODE_BIT, RTL8309N_ACTIVE_HIGH),
-	[L2_F_CAM] = L2_CTRL_BIT(RTL8309N_L2_CAM_DISABLE_BIT, RTL8309N_ACTIVE_LOW),
-	[L2_F_LRU] = L2_CTRL_BIT(RTL8309N_L2_LRU_BIT, RTL8309N_ACTIVE_HIGH),
-	[L2_F_FAST_AGING] = L2_CTRL_BIT(RTL8309N_L2_FAST_AGING_BIT, RTL8309N_ACTIVE_HIGH),
-	[L2_F_FLUSH] = L2_CTRL_BIT(RTL8309N_L2_FLUSH_BIT, RTL8309N_ACTIVE_HIGH),
-	[L2_F_DA_BLOCK_ACT] = L2_CTRL_BIT(RTL8309N_L2_DA_BLOCK_ACT_BIT, RTL8309N_ACTIVE_HIGH),
-	[L2_F_SA_BLOCK_ACT] = L2_CTRL_BIT(RTL8309N_L2_SA_BLOCK_ACT_BIT, RTL8309N_ACTIVE_HIGH),
-	[L2_F_AGING] = L2_CTRL_BIT(RTL8309N_L2_AGING_BIT, RTL8309N_ACTIVE_HIGH),
-	[L2_F_DP_MASK] = L2_CTRL_BIT(RTL8309N_L2_DP_MASK_BIT, RTL8309N_ACTIVE_HIGH),
-	[L2_F_UNKNOWN_DA_DROP] = L2_CTRL_BIT(RTL8309N_L2_UNKNOWN_DA_KEEP_BIT, RTL8309N_ACTIVE_LOW),
-	[L2_F_SYS_LIMIT_B] = L2_GLOBAL(RTL8309N_L2_LIMIT_REG, 0, RTL8309N_L2_SYS_LIMIT_B_WIDTH),
-	[L2_F_LIMIT_ACT] = L2_GLOBAL(RTL8309N_L2_LIMIT_REG, RTL8309N_L2_LIMIT_ACT_BIT, 1),
-	[L2_F_SYS_LIMIT_A] = L2_GLOBAL(RTL8309N_L2_SYS_LIMIT_REG, 0, RTL8309N_L2_SYS_LIMIT_A_WIDTH),
-	[L2_F_SYS_LIMIT_EN] = L2_GLOBAL(RTL8309N_L2_SYS_LIMIT_REG, RTL8309N_L2_SYS_LIMIT_EN_BIT, 1),
-	[L2_F_SYS_COUNT] = L2_GLOBAL(RTL8309N_L2_SYS_COUNT_REG, 0, RTL8309N_L2_COUNT_WIDTH),
-	[L2_F_PORT_LIMIT_EN] = L2_PER_PORT(RTL8309N_L2_PORT_LIMIT_REG,
-					   RTL8309N_L2_PORT_LIMIT_EN_BIT, 1),
-	[L2_F_PORT_LIMIT] = L2_PER_PORT(RTL8309N_L2_PORT_LIMIT_REG, RTL8309N_L2_PORT_LIMIT_LSB,
-					RTL8309N_L2_PORT_LIMIT_WIDTH),
-	[L2_F_PORT_COUNT] = L2_PER_PORT(RTL8309N_L2_PORT_COUNT_REG, 0, RTL8309N_L2_COUNT_WIDTH),
-};
+static const struct rtl8309n_field l2_sys_limit_b =
+	L2_GLOBAL_FIELD(RTL8309N_L2_LIMIT_REG, RTL8309N_L2_LIMIT_SYS_B, RTL8309N_FIELD_VALUE);
+static const struct rtl8309n_field l2_limit_trap =
+	L2_GLOBAL_FIELD(RTL8309N_L2_LIMIT_REG, RTL8309N_L2_LIMIT_TRAP, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_sys_limit_a =
+	L2_GLOBAL_FIELD(RTL8309N_L2_SYS_LIMIT_REG, RTL8309N_L2_SYS_LIMIT_A, RTL8309N_FIELD_VALUE);
+static const struct rtl8309n_field l2_sys_limit_en =
+	L2_GLOBAL_FIELD(RTL8309N_L2_SYS_LIMIT_REG, RTL8309N_L2_SYS_LIMIT_EN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_sys_count =
+	L2_GLOBAL_FIELD(RTL8309N_L2_SYS_COUNT_REG, RTL8309N_L2_SYS_COUNT, RTL8309N_FIELD_VALUE);
+
+static const struct rtl8309n_field l2_port_limit_en =
+	L2_PORT_FIELD(RTL8309N_L2_PORT_LIMIT_REG, RTL8309N_L2_PORT_LIMIT_EN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field l2_port_limit =
+	L2_PORT_FIELD(RTL8309N_L2_PORT_LIMIT_REG, RTL8309N_L2_PORT_LIMIT, RTL8309N_FIELD_VALUE);
+static const struct rtl8309n_field l2_port_count =
+	L2_PORT_FIELD(RTL8309N_L2_PORT_COUNT_REG, RTL8309N_L2_PORT_COUNT, RTL8309N_FIELD_VALUE);
 
 /* Age codes are stored Gray-like (2 as 0b11, 3 as 0b10); the map is its own inverse. */
 static const u8 l2_age_code[RTL8309N_L2_MAX_AGE + 1] = { 0, 1, 3, 2 };
@@ -138,19 +130,19 @@ static const rtl8309n_l2_ucastEntry l2_empty_entry;
 
 static void l2_access(u32 on)
 {
-	rtl8309n_regbit_set(RTL8309N_L2_ADDR, RTL8309N_L2_CTRL_REG, RTL8309N_L2_ACCESS_BIT,
-			    RTL8309N_L2_PAGE, on);
+	rtl8309n_bits_set(RTL8309N_L2_ADDR, RTL8309N_L2_CTRL_REG, RTL8309N_L2_PAGE,
+			  RTL8309N_L2_CTRL_ACCESS, on);
 }
 
 /* Run a command under the access bit; a timeout leaves the bit set. */
 static s32 l2_command(u32 index, u32 read)
 {
 	rtl8309n_reg_set(RTL8309N_L2_ADDR, RTL8309N_L2_CMD_REG, RTL8309N_L2_PAGE,
-			 (u16)(index & RTL8309N_L2_CMD_INDEX_MASK));
-	rtl8309n_regbit_set(RTL8309N_L2_ADDR, RTL8309N_L2_CMD_REG, RTL8309N_L2_CMD_READ_BIT,
-			    RTL8309N_L2_PAGE, read);
-	return rtl8309n_cmd_exec(RTL8309N_L2_ADDR, RTL8309N_L2_CMD_REG, RTL8309N_L2_CMD_BUSY_BIT,
-				 RTL8309N_L2_PAGE);
+			 (u16)rtl8309n_field_prep(RTL8309N_L2_CMD_INDEX, index));
+	rtl8309n_bits_set(RTL8309N_L2_ADDR, RTL8309N_L2_CMD_REG, RTL8309N_L2_PAGE,
+			  RTL8309N_L2_CMD_READ, read);
+	return rtl8309n_cmd_exec(RTL8309N_L2_ADDR, RTL8309N_L2_CMD_REG,
+				 rtl8309n_mask_shift(RTL8309N_L2_CMD_BUSY), RTL8309N_L2_PAGE);
 }
 
 static s32 l2_entry_write(u32 index, u32 word, const u8 *mac)
@@ -182,44 +174,26 @@ static s32 l2_entry_read(u32 index, struct l2_raw *raw)
 	return RT_ERR_OK;
 }
 
-static void l2_mac_copy(u8 *dst, const u8 *src)
-{
-	u32 i;
-
-	for (i = 0; i < RTL8309N_MAC_LEN; i++)
-		dst[i] = src[i];
-}
-
-static int l2_mac_equal(const u8 *a, const u8 *b)
-{
-	u32 i;
-
-	for (i = 0; i < RTL8309N_MAC_LEN; i++)
-		if (a[i] != b[i])
-			return 0;
-	return 1;
-}
-
 static void l2_ucast_decode(const struct l2_raw *raw, rtl8309n_l2_ucastEntry *entry)
 {
 	u32 w = raw->word;
 
-	entry->isStatic = !!(w & RTL8309N_L2_WORD_STATIC);
-	entry->auth = !!(w & RTL8309N_L2_WORD_AUTH);
-	entry->block10 = !!(w & RTL8309N_L2_WORD_BLOCK10);
-	entry->block9 = !!(w & RTL8309N_L2_WORD_BLOCK9);
-	entry->age = l2_age_code[(w >> RTL8309N_L2_WORD_AGE_SHIFT) & RTL8309N_L2_MAX_AGE];
-	entry->port = (w >> RTL8309N_L2_WORD_PORT_SHIFT) & RTL8309N_L2_WORD_PORT_MASK;
-	entry->fid = w & RTL8309N_L2_WORD_FID_MASK;
-	l2_mac_copy(entry->mac, raw->mac);
+	entry->isStatic = !!(w & RTL8309N_L2_ENTRY_STATIC);
+	entry->auth = !!(w & RTL8309N_L2_ENTRY_AUTH);
+	entry->block10 = !!(w & RTL8309N_L2_ENTRY_BLOCK10);
+	entry->block9 = !!(w & RTL8309N_L2_ENTRY_BLOCK9);
+	entry->age = l2_age_code[rtl8309n_field_extract(RTL8309N_L2_ENTRY_AGE, w)];
+	entry->port = rtl8309n_field_extract(RTL8309N_L2_ENTRY_PORT, w);
+	entry->fid = rtl8309n_field_extract(RTL8309N_L2_ENTRY_FID, w);
+	rtl8309n_mac_copy(entry->mac, raw->mac);
 }
 
 static void l2_mcast_decode(const struct l2_raw *raw, rtl8309n_l2_mcastEntry *entry)
 {
-	entry->valid = !!(raw->word & RTL8309N_L2_WORD_VALID);
-	entry->fid = raw->word & RTL8309N_L2_WORD_FID_MASK;
-	entry->portMask = (raw->word >> RTL8309N_L2_WORD_PMASK_SHIFT) & L2_PORTMASK_MAX;
-	l2_mac_copy(entry->mac, raw->mac);
+	entry->valid = !!(raw->word & RTL8309N_L2_ENTRY_VALID);
+	entry->fid = rtl8309n_field_extract(RTL8309N_L2_ENTRY_FID, raw->word);
+	entry->portMask = rtl8309n_field_extract(RTL8309N_L2_ENTRY_PORTMASK, raw->word);
+	rtl8309n_mac_copy(entry->mac, raw->mac);
 }
 
 /*
@@ -235,16 +209,16 @@ s32 rtl8309n_l2_ucastEntry_set(u32 index, const rtl8309n_l2_ucastEntry *entry)
 	    entry->port > RTL8309N_MAX_PORT)
 		return RT_ERR_FAILED;
 
-	word = entry->fid | entry->port << RTL8309N_L2_WORD_PORT_SHIFT |
-	       (u32)l2_age_code[entry->age] << RTL8309N_L2_WORD_AGE_SHIFT;
+	word = entry->fid | rtl8309n_field_prep(RTL8309N_L2_ENTRY_PORT, entry->port) |
+	       rtl8309n_field_prep(RTL8309N_L2_ENTRY_AGE, l2_age_code[entry->age]);
 	if (entry->isStatic == 1)
-		word |= RTL8309N_L2_WORD_STATIC;
+		word |= RTL8309N_L2_ENTRY_STATIC;
 	if (entry->block9 == 1)
-		word |= RTL8309N_L2_WORD_BLOCK9;
+		word |= RTL8309N_L2_ENTRY_BLOCK9;
 	if (entry->block10 == 1)
-		word |= RTL8309N_L2_WORD_BLOCK10;
+		word |= RTL8309N_L2_ENTRY_BLOCK10;
 	if (entry->auth == 1)
-		word |= RTL8309N_L2_WORD_AUTH;
+		word |= RTL8309N_L2_ENTRY_AUTH;
 	return l2_entry_write(index, word, entry->mac);
 }
 
@@ -263,13 +237,14 @@ s32 rtl8309n_l2_mcastEntry_set(u32 index, const rtl8309n_l2_mcastEntry *entry)
 {
 	u32 word;
 
-	if (!entry || entry->portMask > L2_PORTMASK_MAX || !rtl8309n_mac_is_mcast(entry->mac))
+	if (!entry || entry->portMask > RTL8309N_PORT_MASK_ALL ||
+	    !rtl8309n_mac_is_mcast(entry->mac))
 		return RT_ERR_FAILED;
 
-	word = (entry->fid & RTL8309N_L2_WORD_FID_MASK) |
-	       entry->portMask << RTL8309N_L2_WORD_PMASK_SHIFT;
+	word = rtl8309n_field_prep(RTL8309N_L2_ENTRY_FID, entry->fid) |
+	       rtl8309n_field_prep(RTL8309N_L2_ENTRY_PORTMASK, entry->portMask);
 	if (entry->valid == 1)
-		word |= RTL8309N_L2_WORD_VALID;
+		word |= RTL8309N_L2_ENTRY_VALID;
 	return l2_entry_write(index, word, entry->mac);
 }
 
@@ -302,9 +277,8 @@ s32 rtl8309n_l2_MacToIdx_get(const u8 *mac, u32 fid, u32 *pindex)
 	if (!mac || !pindex || fid > RTL8309N_L2_MAX_FID)
 		return RT_ERR_FAILED;
 
-	rtl8309n_regbit_get(RTL8309N_L2_ADDR, RTL8309N_L2_CTRL_REG, RTL8309N_L2_HASH_MODE_BIT,
-			    RTL8309N_L2_PAGE, &mode);
-	l2_mac_copy(key, mac);
+	rtl8309n_l2_hashmode_get(&mode);
+	rtl8309n_mac_copy(key, mac);
 	key[RTL8309N_MAC_LEN] = (u8)fid;
 	for (bit = 0; bit < L2_HASH_BITS; bit++) {
 		const u8 *term = l2_hash_terms[mode][bit];
@@ -320,12 +294,12 @@ s32 rtl8309n_l2_MacToIdx_get(const u8 *mac, u32 fid, u32 *pindex)
 
 s32 rtl8309n_l2_hashmode_set(u32 mode)
 {
-	return rtl8309n_regfield_set(&l2_fields[L2_F_HASH_MODE], 0, mode);
+	return rtl8309n_field_set(&l2_hash_mode, 0, mode);
 }
 
 s32 rtl8309n_l2_hashmode_get(u32 *pmode)
 {
-	return rtl8309n_regfield_get(&l2_fields[L2_F_HASH_MODE], 0, pmode);
+	return rtl8309n_field_get(&l2_hash_mode, 0, pmode);
 }
 
 /* ---- Address operations ---- */
@@ -344,7 +318,7 @@ static void l2_scan_start(struct l2_scan *sc, const u8 *mac, u32 fid)
 static int l2_replaceable(const struct l2_raw *raw)
 {
 	return !rtl8309n_mac_is_mcast(raw->mac) &&
-	       !(raw->word & (RTL8309N_L2_WORD_AUTH | RTL8309N_L2_WORD_STATIC));
+	       !(raw->word & (RTL8309N_L2_ENTRY_AUTH | RTL8309N_L2_ENTRY_STATIC));
 }
 
 /*
@@ -359,7 +333,7 @@ static s32 l2_scan_next(struct l2_scan *sc, const u8 *key)
 		sc->index = L2_INDEX(sc->hash, sc->way);
 		if (l2_entry_read(sc->index, &sc->raw) != RT_ERR_OK)
 			return RT_ERR_FAILED;
-		if (key ? l2_mac_equal(sc->raw.mac, key) : l2_replaceable(&sc->raw))
+		if (key ? rtl8309n_mac_equal(sc->raw.mac, key) : l2_replaceable(&sc->raw))
 			return RT_ERR_OK;
 	}
 	return RTL8309N_L2_NOT_FOUND;
@@ -495,7 +469,7 @@ s32 rtl8309n_l2_mcastAddr_add(const u8 *mac, u32 fid, u32 portMask, u32 *pindex)
 	int matched;
 	s32 ret;
 
-	if (!mac || !pindex || !rtl8309n_mac_is_mcast(mac) || portMask > L2_PORTMASK_MAX ||
+	if (!mac || !pindex || !rtl8309n_mac_is_mcast(mac) || portMask > RTL8309N_PORT_MASK_ALL ||
 	    fid > RTL8309N_L2_MAX_FID)
 		return RT_ERR_FAILED;
 
@@ -514,7 +488,7 @@ s32 rtl8309n_l2_mcastAddr_add(const u8 *mac, u32 fid, u32 portMask, u32 *pindex)
 		rec.valid = 1;
 		rec.fid = fid;
 		rec.portMask = portMask;
-		l2_mac_copy(rec.mac, mac);
+		rtl8309n_mac_copy(rec.mac, mac);
 		if (rtl8309n_l2_mcastEntry_set(sc.index, &rec) != RT_ERR_OK)
 			return RT_ERR_FAILED;
 	}
@@ -529,7 +503,8 @@ s32 rtl8309n_l2_mcastAddr_get(const u8 *mac, u32 fid, u32 *pportMask, u32 *pinde
 	struct l2_scan sc;
 	s32 ret;
 
-	if (!pportMask || !pindex || !mac || fid > RTL8309N_L2_MAX_FID || !rtl8309n_mac_is_mcast(mac))
+	if (!pportMask || !pindex || !mac || fid > RTL8309N_L2_MAX_FID ||
+	    !rtl8309n_mac_is_mcast(mac))
 		return RT_ERR_FAILED;
 
 	ret = l2_find(&sc, mac, fid, pindex);
@@ -557,25 +532,33 @@ s32 rtl8309n_l2_mcastAddr_del(const u8 *mac, u32 fid, u32 *pindex)
 
 s32 rtl8309n_l2_portMacLimitEnable_set(u32 port, u32 enabled)
 {
-	return rtl8309n_regfield_set(&l2_fields[L2_F_PORT_LIMIT_EN], port, enabled);
+	return rtl8309n_field_set(&l2_port_limit_en, port, enabled);
 }
 
 s32 rtl8309n_l2_portMacLimitEnable_get(u32 port, u32 *penabled)
 {
-	return rtl8309n_regfield_get(&l2_fields[L2_F_PORT_LIMIT_EN], port, penabled);
+	return rtl8309n_field_get(&l2_port_limit_en, port, penabled);
 }
 
 s32 rtl8309n_l2_portMacLimit_set(u32 port, u32 limit)
 {
-	return rtl8309n_regfield_set(&l2_fields[L2_F_PORT_LIMIT], port, limit);
+	return rtl8309n_field_set(&l2_port_limit, port, limit);
 }
 
 s32 rtl8309n_l2_portMacLimit_get(u32 port, u32 *plimit)
 {
-	return rtl8309n_regfield_get(&l2_fields[L2_F_PORT_LIMIT], port, plimit);
+	return rtl8309n_field_get(&l2_port_limit, port, plimit);
 }
 
-RTL8309N_GLOBAL_ACCESSORS(l2_systemMacLimitEnable, u32, l2_fields[L2_F_SYS_LIMIT_EN])
+s32 rtl8309n_l2_systemMacLimitEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&l2_sys_limit_en, 0, enabled);
+}
+
+s32 rtl8309n_l2_systemMacLimitEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&l2_sys_limit_en, 0, penabled);
+}
 
 /*
  * Two limit values: @limitA (8 bits) beside the 9-bit @limitB.  Both are
@@ -585,8 +568,8 @@ s32 rtl8309n_l2_systemMacLimit_set(u32 limitA, u32 limitB)
 {
 	if (limitA > L2_SYS_LIMIT_A_MAX || limitB > L2_SYS_LIMIT_B_MAX)
 		return RT_ERR_FAILED;
-	rtl8309n_regfield_set(&l2_fields[L2_F_SYS_LIMIT_A], 0, limitA);
-	rtl8309n_regfield_set(&l2_fields[L2_F_SYS_LIMIT_B], 0, limitB);
+	rtl8309n_field_set(&l2_sys_limit_a, 0, limitA);
+	rtl8309n_field_set(&l2_sys_limit_b, 0, limitB);
 	return RT_ERR_OK;
 }
 
@@ -594,63 +577,126 @@ s32 rtl8309n_l2_systemMacLimit_get(u32 *plimitA, u32 *plimitB)
 {
 	if (!plimitA || !plimitB)
 		return RT_ERR_FAILED;
-	rtl8309n_regfield_get(&l2_fields[L2_F_SYS_LIMIT_A], 0, plimitA);
-	rtl8309n_regfield_get(&l2_fields[L2_F_SYS_LIMIT_B], 0, plimitB);
+	rtl8309n_field_get(&l2_sys_limit_a, 0, plimitA);
+	rtl8309n_field_get(&l2_sys_limit_b, 0, plimitB);
 	return RT_ERR_OK;
 }
 
 /* A set bit means trap here: the opposite sense of the SA/DA block bits. */
 s32 rtl8309n_l2_macLimitAction_set(u32 action)
 {
-	return rtl8309n_regfield_code_set(&l2_fields[L2_F_LIMIT_ACT], 0, action,
-					  RTL8309N_ACT_TRAP, RTL8309N_ACT_DROP);
+	return rtl8309n_field_code_set(&l2_limit_trap, 0, action, RTL8309N_ACT_TRAP,
+				       RTL8309N_ACT_DROP);
 }
 
 s32 rtl8309n_l2_macLimitAction_get(u32 *paction)
 {
-	return rtl8309n_regfield_code_get(&l2_fields[L2_F_LIMIT_ACT], 0, paction,
-					  RTL8309N_ACT_TRAP, RTL8309N_ACT_DROP);
+	return rtl8309n_field_code_get(&l2_limit_trap, 0, paction, RTL8309N_ACT_TRAP,
+				       RTL8309N_ACT_DROP);
 }
 
 s32 rtl8309n_l2_systemLearningCnt_get(u32 *pcount)
 {
-	return rtl8309n_regfield_get(&l2_fields[L2_F_SYS_COUNT], 0, pcount);
+	return rtl8309n_field_get(&l2_sys_count, 0, pcount);
 }
 
 s32 rtl8309n_l2_portlearningCnt_get(u32 port, u32 *pcount)
 {
-	return rtl8309n_regfield_get(&l2_fields[L2_F_PORT_COUNT], port, pcount);
+	return rtl8309n_field_get(&l2_port_count, port, pcount);
 }
 
-/* CAM and unknown-DA drop sit in disable bits; the field table inverts them. */
-RTL8309N_GLOBAL_ACCESSORS(l2_lruEnable, u32, l2_fields[L2_F_LRU])
-RTL8309N_GLOBAL_ACCESSORS(l2_camEnable, u32, l2_fields[L2_F_CAM])
-RTL8309N_GLOBAL_ACCESSORS(l2_flushEnable, u32, l2_fields[L2_F_FLUSH])
-RTL8309N_GLOBAL_ACCESSORS(l2_agingEnable, u32, l2_fields[L2_F_AGING])
-RTL8309N_GLOBAL_ACCESSORS(l2_fastAgingEnable, u32, l2_fields[L2_F_FAST_AGING])
-RTL8309N_GLOBAL_ACCESSORS(l2_dpMskEnable, u32, l2_fields[L2_F_DP_MASK])
-RTL8309N_GLOBAL_ACCESSORS(l2_unkownDaDropEnable, u32, l2_fields[L2_F_UNKNOWN_DA_DROP])
+s32 rtl8309n_l2_lruEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&l2_lru, 0, enabled);
+}
+
+s32 rtl8309n_l2_lruEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&l2_lru, 0, penabled);
+}
+
+/* The CAM is switched by a disable bit; its descriptor inverts it. */
+s32 rtl8309n_l2_camEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&l2_cam, 0, enabled);
+}
+
+s32 rtl8309n_l2_camEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&l2_cam, 0, penabled);
+}
+
+s32 rtl8309n_l2_flushEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&l2_flush, 0, enabled);
+}
+
+s32 rtl8309n_l2_flushEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&l2_flush, 0, penabled);
+}
+
+s32 rtl8309n_l2_agingEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&l2_aging, 0, enabled);
+}
+
+s32 rtl8309n_l2_agingEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&l2_aging, 0, penabled);
+}
+
+s32 rtl8309n_l2_fastAgingEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&l2_fast_aging, 0, enabled);
+}
+
+s32 rtl8309n_l2_fastAgingEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&l2_fast_aging, 0, penabled);
+}
+
+s32 rtl8309n_l2_dpMskEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&l2_dp_mask, 0, enabled);
+}
+
+s32 rtl8309n_l2_dpMskEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&l2_dp_mask, 0, penabled);
+}
+
+/* Unknown-DA drop is switched off by its bit; the descriptor inverts it. */
+s32 rtl8309n_l2_unkownDaDropEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&l2_unknown_da_drop, 0, enabled);
+}
+
+s32 rtl8309n_l2_unkownDaDropEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&l2_unknown_da_drop, 0, penabled);
+}
 
 s32 rtl8309n_l2_sablockAction_set(u32 action)
 {
-	return rtl8309n_regfield_code_set(&l2_fields[L2_F_SA_BLOCK_ACT], 0, action,
-					  RTL8309N_ACT_DROP, RTL8309N_ACT_TRAP);
+	return rtl8309n_field_code_set(&l2_sa_block_drop, 0, action, RTL8309N_ACT_DROP,
+				       RTL8309N_ACT_TRAP);
 }
 
 s32 rtl8309n_l2_sablockAction_get(u32 *paction)
 {
-	return rtl8309n_regfield_code_get(&l2_fields[L2_F_SA_BLOCK_ACT], 0, paction,
-					  RTL8309N_ACT_DROP, RTL8309N_ACT_TRAP);
+	return rtl8309n_field_code_get(&l2_sa_block_drop, 0, paction, RTL8309N_ACT_DROP,
+				       RTL8309N_ACT_TRAP);
 }
 
 s32 rtl8309n_l2_dablockAction_set(u32 action)
 {
-	return rtl8309n_regfield_code_set(&l2_fields[L2_F_DA_BLOCK_ACT], 0, action,
-					  RTL8309N_ACT_DROP, RTL8309N_ACT_TRAP);
+	return rtl8309n_field_code_set(&l2_da_block_drop, 0, action, RTL8309N_ACT_DROP,
+				       RTL8309N_ACT_TRAP);
 }
 
 s32 rtl8309n_l2_dablockAction_get(u32 *paction)
 {
-	return rtl8309n_regfield_code_get(&l2_fields[L2_F_DA_BLOCK_ACT], 0, paction,
-					  RTL8309N_ACT_DROP, RTL8309N_ACT_TRAP);
+	return rtl8309n_field_code_get(&l2_da_block_drop, 0, paction, RTL8309N_ACT_DROP,
+				       RTL8309N_ACT_TRAP);
 }

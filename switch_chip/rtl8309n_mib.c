@@ -9,14 +9,15 @@
  * only after every latch succeeded.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
 #define MIB_BYTE_COUNTER_BITS	0x2	/* identifier 0 or 2, nothing else */
 
-static const struct rtl8309n_regfield mib_overflow = {
-	.phyad = RTL8309N_MIB_ADDR, .regad = RTL8309N_MIB_OVERFLOW_REG, .npage = RTL8309N_MIB_PAGE,
-	.lsb = 0, .width = 1, .pol = RTL8309N_ACTIVE_HIGH, .index = RTL8309N_PORT_BIT,
-};
+static const struct rtl8309n_field mib_enable =
+	RTL8309N_FIELD(RTL8309N_MIB_ADDR, RTL8309N_MIB_CTRL_REG, RTL8309N_MIB_PAGE,
+		       RTL8309N_MIB_CTRL_ENABLE, RTL8309N_FIELD_FLAG, RTL8309N_GLOBAL);
+static const struct rtl8309n_field mib_overflow =
+	RTL8309N_FIELD(RTL8309N_MIB_ADDR, RTL8309N_MIB_OVERFLOW_REG, RTL8309N_MIB_PAGE,
+		       RTL8309N_MIB_OVERFLOW_PORT(0), RTL8309N_FIELD_FLAG, RTL8309N_PORT_BIT);
 
 static s32 mib_bit_set(u32 regad, u32 bit, u32 value)
 {
@@ -30,11 +31,12 @@ static s32 mib_bit_set(u32 regad, u32 bit, u32 value)
 static s32 mib_latch_words(u32 port, u32 id, u32 first_reg, u32 *lo, u32 *hi)
 {
 	rtl8309n_reg_set(RTL8309N_MIB_ADDR, RTL8309N_MIB_SELECT_REG, RTL8309N_MIB_PAGE,
-			 (u16)(id | RTL8309N_MIB_SELECT_BUSY |
-			       port << RTL8309N_MIB_SELECT_PORT_SHIFT));
+			 (u16)(rtl8309n_field_prep(RTL8309N_MIB_SELECT_COUNTER, id) |
+			       rtl8309n_field_prep(RTL8309N_MIB_SELECT_PORT, port) |
+			       RTL8309N_MIB_SELECT_BUSY));
 	if (rtl8309n_poll_bit_clear(RTL8309N_MIB_ADDR, RTL8309N_MIB_SELECT_REG,
-				    RTL8309N_MIB_SELECT_BUSY_BIT, RTL8309N_MIB_PAGE,
-				    RTL8309N_POLL_READS) != RT_ERR_OK)
+				    rtl8309n_mask_shift(RTL8309N_MIB_SELECT_BUSY),
+				    RTL8309N_MIB_PAGE, RTL8309N_POLL_READS) != RT_ERR_OK)
 		return RT_ERR_FAILED;
 	rtl8309n_reg_get(RTL8309N_MIB_ADDR, first_reg, RTL8309N_MIB_PAGE, lo);
 	rtl8309n_reg_get(RTL8309N_MIB_ADDR, first_reg + 1, RTL8309N_MIB_PAGE, hi);
@@ -45,7 +47,7 @@ s32 rtl8309n_mib_enable_set(u32 enabled)
 {
 	if (enabled > RTL8309N_ENABLED)
 		return RT_ERR_FAILED;
-	return mib_bit_set(RTL8309N_MIB_CTRL_REG, RTL8309N_MIB_ENABLE_BIT, enabled);
+	return rtl8309n_field_set(&mib_enable, 0, enabled);
 }
 
 /*
@@ -56,8 +58,7 @@ s32 rtl8309n_mib_enable_get(u32 *penabled)
 {
 	if (!penabled)
 		return RT_ERR_FAILED;
-	rtl8309n_regbit_get(RTL8309N_MIB_ADDR, RTL8309N_MIB_CTRL_REG, RTL8309N_MIB_ENABLE_BIT,
-			    RTL8309N_MIB_PAGE, penabled);
+	rtl8309n_field_get(&mib_enable, 0, penabled);
 	return RT_ERR_FAILED;
 }
 
@@ -74,13 +75,13 @@ s32 rtl8309n_mib_stop(u32 port)
 
 s32 rtl8309n_mib_overFlowFlag_set(u32 port, u32 flag)
 {
-	return rtl8309n_regfield_set(&mib_overflow, port, flag);
+	return rtl8309n_field_set(&mib_overflow, port, flag);
 }
 
 /* No pointer check of its own; the field accessor refuses NULL before any bus access. */
 s32 rtl8309n_mib_overFlowFlag_get(u32 port, u32 *pflag)
 {
-	return rtl8309n_regfield_get(&mib_overflow, port, pflag);
+	return rtl8309n_field_get(&mib_overflow, port, pflag);
 }
 
 s32 rtl8309n_mib_byteCnt_get(u32 port, u32 counter, u32 *value)
@@ -126,7 +127,7 @@ s32 rtl8309n_mib_reset(u32 port)
 	if (port > RTL8309N_MAX_PORT)
 		return RT_ERR_FAILED;
 
-	mib_bit_set(RTL8309N_MIB_CTRL_REG, RTL8309N_MIB_ENABLE_BIT, 1);
+	rtl8309n_field_set(&mib_enable, 0, RTL8309N_ENABLED);
 	mib_bit_set(RTL8309N_MIB_RESET_REG, port, 1);
 	do {
 		rtl8309n_regbit_get(RTL8309N_MIB_ADDR, RTL8309N_MIB_RESET_REG, port,

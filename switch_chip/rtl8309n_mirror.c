@@ -8,43 +8,44 @@
  * chip's business, the layer only stores them.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
-enum mirror_field_id {
-	MIRROR_F_PORT,
-	MIRROR_F_MAC_EN,
-	MIRROR_F_SELF_FILTER,
-	MIRROR_F_PAUSE,
-	MIRROR_F_MASK_B,
-	MIRROR_F_MASK_A,
-};
+#define MIRROR_FIELD(reg, mask, kind)					\
+	RTL8309N_FIELD(RTL8309N_MIRROR_ADDR, reg, RTL8309N_MIRROR_PAGE, mask, kind,	\
+		       RTL8309N_GLOBAL)
+#define MIRROR_CTRL_FIELD(mask, kind)	MIRROR_FIELD(RTL8309N_MIRROR_CTRL_REG, mask, kind)
 
-#define MIRROR_FIELD(reg, lsb, width)	\
-	RTL8309N_GLOBAL_FIELD(RTL8309N_MIRROR_ADDR, reg, RTL8309N_MIRROR_PAGE, lsb, width)
+static const struct rtl8309n_field mirror_port =
+	MIRROR_CTRL_FIELD(RTL8309N_MIRROR_CTRL_PORT, RTL8309N_FIELD_VALUE);
+static const struct rtl8309n_field mirror_mac_en =
+	MIRROR_CTRL_FIELD(RTL8309N_MIRROR_CTRL_MAC_EN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field mirror_self_filter =
+	MIRROR_CTRL_FIELD(RTL8309N_MIRROR_CTRL_SELF_FILTER, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field mirror_pause =
+	MIRROR_CTRL_FIELD(RTL8309N_MIRROR_CTRL_PAUSE, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field mirror_mask_a =
+	MIRROR_FIELD(RTL8309N_MIRROR_MASK_A_REG, RTL8309N_MIRROR_MASK_PORTS, RTL8309N_FIELD_VALUE);
+static const struct rtl8309n_field mirror_mask_b =
+	MIRROR_FIELD(RTL8309N_MIRROR_MASK_B_REG, RTL8309N_MIRROR_MASK_PORTS, RTL8309N_FIELD_VALUE);
 
-static const struct rtl8309n_regfield mirror_fields[] = {
-	[MIRROR_F_PORT] = MIRROR_FIELD(RTL8309N_MIRROR_CTRL_REG, RTL8309N_MIRROR_PORT_LSB,
-				       RTL8309N_MIRROR_PORT_WIDTH),
-	[MIRROR_F_MAC_EN] = MIRROR_FIELD(RTL8309N_MIRROR_CTRL_REG, RTL8309N_MIRROR_MAC_EN_BIT, 1),
-	[MIRROR_F_SELF_FILTER] = MIRROR_FIELD(RTL8309N_MIRROR_CTRL_REG,
-					      RTL8309N_MIRROR_SELF_FILTER_BIT, 1),
-	[MIRROR_F_PAUSE] = MIRROR_FIELD(RTL8309N_MIRROR_CTRL_REG, RTL8309N_MIRROR_PAUSE_BIT, 1),
-	[MIRROR_F_MASK_B] = MIRROR_FIELD(RTL8309N_MIRROR_MASK_B_REG, 0, RTL8309N_MIRROR_MASK_WIDTH),
-	[MIRROR_F_MASK_A] = MIRROR_FIELD(RTL8309N_MIRROR_MASK_A_REG, 0, RTL8309N_MIRROR_MASK_WIDTH),
-};
-
-static s32 mirror_set(enum mirror_field_id id, u32 value)
+s32 rtl8309n_mirror_selfFilterEnable_set(u32 enabled)
 {
-	return rtl8309n_regfield_set(&mirror_fields[id], 0, value);
+	return rtl8309n_field_set(&mirror_self_filter, 0, enabled);
 }
 
-static s32 mirror_get(enum mirror_field_id id, u32 *pvalue)
+s32 rtl8309n_mirror_selfFilterEnable_get(u32 *penabled)
 {
-	return rtl8309n_regfield_get(&mirror_fields[id], 0, pvalue);
+	return rtl8309n_field_get(&mirror_self_filter, 0, penabled);
 }
 
-RTL8309N_GLOBAL_ACCESSORS(mirror_selfFilterEnable, u32, mirror_fields[MIRROR_F_SELF_FILTER])
-RTL8309N_GLOBAL_ACCESSORS(mirror_pauseFrameEnable, u32, mirror_fields[MIRROR_F_PAUSE])
+s32 rtl8309n_mirror_pauseFrameEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&mirror_pause, 0, enabled);
+}
+
+s32 rtl8309n_mirror_pauseFrameEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&mirror_pause, 0, penabled);
+}
 
 /* Setting a mirror port always turns self-filtering on, whatever it was. */
 s32 rtl8309n_mirror_portBased_set(u32 mirport, u32 maskA, u32 maskB)
@@ -53,10 +54,10 @@ s32 rtl8309n_mirror_portBased_set(u32 mirport, u32 maskA, u32 maskB)
 	    mirport > RTL8309N_MAX_PORT)
 		return RT_ERR_FAILED;
 
-	mirror_set(MIRROR_F_PORT, mirport);
-	mirror_set(MIRROR_F_SELF_FILTER, RTL8309N_ENABLED);
-	mirror_set(MIRROR_F_MASK_A, maskA);
-	mirror_set(MIRROR_F_MASK_B, maskB);
+	rtl8309n_field_set(&mirror_port, 0, mirport);
+	rtl8309n_field_set(&mirror_self_filter, 0, RTL8309N_ENABLED);
+	rtl8309n_field_set(&mirror_mask_a, 0, maskA);
+	rtl8309n_field_set(&mirror_mask_b, 0, maskB);
 	return RT_ERR_OK;
 }
 
@@ -65,9 +66,9 @@ s32 rtl8309n_mirror_portBased_get(u32 *pmirport, u32 *pmaskA, u32 *pmaskB)
 	if (!pmirport || !pmaskA || !pmaskB)
 		return RT_ERR_FAILED;
 
-	mirror_get(MIRROR_F_PORT, pmirport);
-	mirror_get(MIRROR_F_MASK_A, pmaskA);
-	mirror_get(MIRROR_F_MASK_B, pmaskB);
+	rtl8309n_field_get(&mirror_port, 0, pmirport);
+	rtl8309n_field_get(&mirror_mask_a, 0, pmaskA);
+	rtl8309n_field_get(&mirror_mask_b, 0, pmaskB);
 	return RT_ERR_OK;
 }
 
@@ -77,7 +78,7 @@ s32 rtl8309n_mirror_macBased_set(const u8 *mac, u32 enabled)
 	if (!mac)
 		return RT_ERR_FAILED;
 
-	mirror_set(MIRROR_F_MAC_EN, enabled);
+	rtl8309n_field_set(&mirror_mac_en, 0, enabled);
 	rtl8309n_mac_regs_set(RTL8309N_MIRROR_ADDR, RTL8309N_MIRROR_MAC_REG, RTL8309N_MIRROR_PAGE,
 			      0, mac);
 	return RT_ERR_OK;
@@ -88,7 +89,7 @@ s32 rtl8309n_mirror_macBased_get(u8 *mac, u32 *penabled)
 	if (!mac || !penabled)
 		return RT_ERR_FAILED;
 
-	mirror_get(MIRROR_F_MAC_EN, penabled);
+	rtl8309n_field_get(&mirror_mac_en, 0, penabled);
 	rtl8309n_mac_regs_get(RTL8309N_MIRROR_ADDR, RTL8309N_MIRROR_MAC_REG, RTL8309N_MIRROR_PAGE,
 			      0, mac);
 	return RT_ERR_OK;

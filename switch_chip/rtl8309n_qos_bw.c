@@ -10,63 +10,60 @@
  * level each one is, is up to the caller.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
-#define HIGH	RTL8309N_ACTIVE_HIGH
-#define LOW	RTL8309N_ACTIVE_LOW
-
-/* Per port (SMI address = port), page 9. */
-#define BW(reg, lsb, width, pol)					\
-	{ 0, reg, RTL8309N_BW_PAGE, lsb, width, pol, RTL8309N_PORT_ADDR }
-
-#define RATE(reg)	BW(reg, 0, RTL8309N_BW_RATE_WIDTH, HIGH)
+#define BW_FIELD(reg, mask, kind)						\
+	RTL8309N_FIELD(0, reg, RTL8309N_BW_PAGE, mask, kind, RTL8309N_PORT_ADDR)
+#define BW_RATE_FIELD(reg)	BW_FIELD(reg, RTL8309N_BW_RATE, RTL8309N_FIELD_VALUE)
+#define FLC_FIELD(reg, mask, kind, index)					\
+	RTL8309N_FIELD(RTL8309N_FLC_ADDR, reg, RTL8309N_FLC_PAGE, mask, kind, index)
 
 /* By direction: RTL8309N_QOS_INGRESS, RTL8309N_QOS_EGRESS. */
-static const struct rtl8309n_regfield bw_port_rate[] = {
-	RATE(RTL8309N_BW_IGR_RATE_REG), RATE(RTL8309N_BW_EGR_RATE_REG),
+static const struct rtl8309n_field bw_port_rate[] = {
+	BW_RATE_FIELD(RTL8309N_BW_IGR_RATE_REG),
+	BW_RATE_FIELD(RTL8309N_BW_EGR_RATE_REG),
 };
-static const struct rtl8309n_regfield bw_ifg_include[] = {
-	BW(RTL8309N_BW_IGR_CTRL_REG, RTL8309N_BW_IGR_IFG_BIT, 1, HIGH),
-	BW(RTL8309N_BW_EGR_CTRL_REG, RTL8309N_BW_EGR_NO_IFG_BIT, 1, LOW),
+
+static const struct rtl8309n_field bw_ifg_include[] = {
+	BW_FIELD(RTL8309N_BW_IGR_CTRL_REG, RTL8309N_BW_IGR_CTRL_IFG, RTL8309N_FIELD_FLAG),
+	BW_FIELD(RTL8309N_BW_EGR_CTRL_REG, RTL8309N_BW_EGR_CTRL_NO_IFG, RTL8309N_FIELD_FLAG_INV),
 };
-static const struct rtl8309n_regfield bw_port_leaky[] = {
-	BW(RTL8309N_BW_IGR_CTRL_REG, RTL8309N_BW_IGR_NO_LEAKY_BIT, 1, LOW),
-	BW(RTL8309N_BW_EGR_CTRL_REG, RTL8309N_BW_EGR_LEAKY_BIT, 1, HIGH),
+
+static const struct rtl8309n_field bw_port_leaky[] = {
+	BW_FIELD(RTL8309N_BW_IGR_CTRL_REG, RTL8309N_BW_IGR_CTRL_NO_LEAKY, RTL8309N_FIELD_FLAG_INV),
+	BW_FIELD(RTL8309N_BW_EGR_CTRL_REG, RTL8309N_BW_EGR_CTRL_LEAKY, RTL8309N_FIELD_FLAG),
 };
 
 /* By queue - 2: only queues 2 and 3 have a rate limit. */
 #define BW_FIRST_QUEUE		2
-static const struct rtl8309n_regfield bw_queue_rate[] = {
-	RATE(RTL8309N_BW_Q2_RATE_REG), RATE(RTL8309N_BW_Q3_RATE_REG),
-};
-static const struct rtl8309n_regfield bw_queue_leaky[] = {
-	BW(RTL8309N_BW_EGR_CTRL_REG, RTL8309N_BW_Q2_LEAKY_BIT, 1, HIGH),
-	BW(RTL8309N_BW_EGR_CTRL_REG, RTL8309N_BW_Q3_LEAKY_BIT, 1, HIGH),
+static const struct rtl8309n_field bw_queue_rate[] = {
+	BW_RATE_FIELD(RTL8309N_BW_Q2_RATE_REG),
+	BW_RATE_FIELD(RTL8309N_BW_Q3_RATE_REG),
 };
 
-/* Flow control of SMI address 7, page 16: mostly disable bits. */
-#define FLC(reg, pol, index)						\
-	{ RTL8309N_FLC_ADDR, reg, RTL8309N_FLC_PAGE, 0, 1, pol, index }
-static const struct rtl8309n_regfield flc_port_dsc =
-	FLC(RTL8309N_FLC_DSC_OFF_REG, LOW, RTL8309N_PORT_BIT);
-static const struct rtl8309n_regfield flc_egress =
-	FLC(RTL8309N_FLC_EGR_OFF_REG, LOW, RTL8309N_PORT_BIT);
-static const struct rtl8309n_regfield flc_ingress =
-	FLC(RTL8309N_FLC_IGR_REG, HIGH, RTL8309N_GLOBAL);
-
-/* Port thresholds, by kind: two whole registers each (the port's own address). */
-static const struct rtl8309n_regfield flc_port_thr[RTL8309N_QOS_PORT_THR_KINDS] = {
-	{ 0, RTL8309N_FLC_PTHR0_REG, RTL8309N_FLC_PTHR0_PAGE, 0, 16, HIGH, RTL8309N_PORT_ADDR },
-	{ 0, RTL8309N_FLC_PTHR1_REG, RTL8309N_FLC_PTHR1_PAGE, 0, 16, HIGH, RTL8309N_PORT_ADDR },
+static const struct rtl8309n_field bw_queue_leaky[] = {
+	BW_FIELD(RTL8309N_BW_EGR_CTRL_REG, RTL8309N_BW_EGR_CTRL_Q2_LEAKY, RTL8309N_FIELD_FLAG),
+	BW_FIELD(RTL8309N_BW_EGR_CTRL_REG, RTL8309N_BW_EGR_CTRL_Q3_LEAKY, RTL8309N_FIELD_FLAG),
 };
 
-RTL8309N_FIELD_ACCESSORS(qos_portRate_IfgIncludeEnable, (u32 sel, u32 port, u32 value),
-			 (u32 sel, u32 port, u32 *pvalue), RTL8309N_PICK(bw_ifg_include, sel), port)
-RTL8309N_PORT_SEL_ACCESSORS(qos_portLeakyBktEnable, bw_port_leaky, 0)
-RTL8309N_PORT_SEL_ACCESSORS(qos_queueLeakyBktEnable, bw_queue_leaky, BW_FIRST_QUEUE)
-RTL8309N_PORT_ACCESSORS(qos_portDscFlcEnable, flc_port_dsc)
-RTL8309N_PORT_ACCESSORS(qos_egrFlcEnable, flc_egress)
-RTL8309N_GLOBAL_ACCESSORS(qos_igrFlcEnable, u32, flc_ingress)
+static const struct rtl8309n_field flc_port_dsc =
+	FLC_FIELD(RTL8309N_FLC_DSC_OFF_REG, RTL8309N_FLC_DSC_OFF_PORT(0), RTL8309N_FIELD_FLAG_INV,
+		  RTL8309N_PORT_BIT);
+static const struct rtl8309n_field flc_egress =
+	FLC_FIELD(RTL8309N_FLC_EGR_OFF_REG, RTL8309N_FLC_EGR_OFF_PORT(0), RTL8309N_FIELD_FLAG_INV,
+		  RTL8309N_PORT_BIT);
+static const struct rtl8309n_field flc_ingress =
+	FLC_FIELD(RTL8309N_FLC_IGR_REG, RTL8309N_FLC_IGR_EN, RTL8309N_FIELD_FLAG, RTL8309N_GLOBAL);
+
+/* Port thresholds, by kind: two whole registers each, on the port's own address. */
+struct flc_thr_regs {
+	u8 reg;
+	u8 page;
+};
+
+static const struct flc_thr_regs flc_port_thr[RTL8309N_QOS_PORT_THR_KINDS] = {
+	{ RTL8309N_FLC_PTHR0_REG, RTL8309N_FLC_PTHR0_PAGE },
+	{ RTL8309N_FLC_PTHR1_REG, RTL8309N_FLC_PTHR1_PAGE },
+};
 
 /* ---- Rates ---- */
 
@@ -74,18 +71,18 @@ s32 rtl8309n_qos_portRate_set(u32 port, u32 rate, u32 direction)
 {
 	if (rate > RTL8309N_QOS_RATE_MAX(port))
 		return RT_ERR_FAILED;
-	return rtl8309n_regfield_set(RTL8309N_PICK(bw_port_rate, direction), port, rate);
+	return rtl8309n_field_set(RTL8309N_PICK(bw_port_rate, direction), port, rate);
 }
 
 s32 rtl8309n_qos_portRate_get(u32 port, u32 *prate, u32 direction)
 {
-	return rtl8309n_regfield_get(RTL8309N_PICK(bw_port_rate, direction), port, prate);
+	return rtl8309n_field_get(RTL8309N_PICK(bw_port_rate, direction), port, prate);
 }
 
 /* A queue's rate owns its register: it is written whole. */
 s32 rtl8309n_qos_queueRate_set(u32 port, u32 queue, u32 rate)
 {
-	const struct rtl8309n_regfield *f = RTL8309N_PICK(bw_queue_rate, queue - BW_FIRST_QUEUE);
+	const struct rtl8309n_field *f = RTL8309N_PICK(bw_queue_rate, queue - BW_FIRST_QUEUE);
 
 	if (!f || port > RTL8309N_MAX_PORT || rate > RTL8309N_QOS_RATE_MAX(port))
 		return RT_ERR_FAILED;
@@ -94,8 +91,40 @@ s32 rtl8309n_qos_queueRate_set(u32 port, u32 queue, u32 rate)
 
 s32 rtl8309n_qos_queueRate_get(u32 port, u32 queue, u32 *prate)
 {
-	return rtl8309n_regfield_get(RTL8309N_PICK(bw_queue_rate, queue - BW_FIRST_QUEUE), port,
-				     prate);
+	return rtl8309n_field_get(RTL8309N_PICK(bw_queue_rate, queue - BW_FIRST_QUEUE), port,
+				  prate);
+}
+
+s32 rtl8309n_qos_portRate_IfgIncludeEnable_set(u32 direction, u32 port, u32 enabled)
+{
+	return rtl8309n_field_set(RTL8309N_PICK(bw_ifg_include, direction), port, enabled);
+}
+
+s32 rtl8309n_qos_portRate_IfgIncludeEnable_get(u32 direction, u32 port, u32 *penabled)
+{
+	return rtl8309n_field_get(RTL8309N_PICK(bw_ifg_include, direction), port, penabled);
+}
+
+s32 rtl8309n_qos_portLeakyBktEnable_set(u32 port, u32 direction, u32 enabled)
+{
+	return rtl8309n_field_set(RTL8309N_PICK(bw_port_leaky, direction), port, enabled);
+}
+
+s32 rtl8309n_qos_portLeakyBktEnable_get(u32 port, u32 direction, u32 *penabled)
+{
+	return rtl8309n_field_get(RTL8309N_PICK(bw_port_leaky, direction), port, penabled);
+}
+
+s32 rtl8309n_qos_queueLeakyBktEnable_set(u32 port, u32 queue, u32 enabled)
+{
+	return rtl8309n_field_set(RTL8309N_PICK(bw_queue_leaky, queue - BW_FIRST_QUEUE), port,
+				  enabled);
+}
+
+s32 rtl8309n_qos_queueLeakyBktEnable_get(u32 port, u32 queue, u32 *penabled)
+{
+	return rtl8309n_field_get(RTL8309N_PICK(bw_queue_leaky, queue - BW_FIRST_QUEUE), port,
+				  penabled);
 }
 
 /* ---- Flow control ---- */
@@ -105,39 +134,37 @@ s32 rtl8309n_qos_queueRate_get(u32 port, u32 queue, u32 *prate)
  * 25, ports 4..7 in register 26, and port 8 in bits 15..12 of register 24,
  * beside the per-port egress bits.
  */
-static const struct rtl8309n_regfield *queue_flc_field(struct rtl8309n_regfield *f, u32 port,
-						       u32 queue)
+static const struct rtl8309n_field *queue_flc_field(struct rtl8309n_field *f, u32 port,
+						    u32 queue)
 {
 	u32 per_reg = RTL8309N_FLC_QUEUE_PORTS_PER_REG;
-	u32 reg, lsb;
 
 	if (port > RTL8309N_MAX_PORT || queue > RTL8309N_QOS_MAX_QUEUE)
 		return NULL;
-	if (port == RTL8309N_MAX_PORT) {
-		reg = RTL8309N_FLC_EGR_OFF_REG;
-		lsb = RTL8309N_FLC_CPU_QUEUE_OFF_LSB + queue;
-	} else {
-		reg = RTL8309N_FLC_QUEUE_OFF_REG + port / per_reg;
-		lsb = (port % per_reg) * (RTL8309N_QOS_MAX_QUEUE + 1) + queue;
-	}
-	*f = (struct rtl8309n_regfield){
-		RTL8309N_FLC_ADDR, reg, RTL8309N_FLC_PAGE, lsb, 1, LOW, RTL8309N_GLOBAL,
-	};
+	if (port == RTL8309N_MAX_PORT)
+		*f = (struct rtl8309n_field)
+			FLC_FIELD(RTL8309N_FLC_EGR_OFF_REG, RTL8309N_FLC_EGR_OFF_CPU_QUEUE(queue),
+				  RTL8309N_FIELD_FLAG_INV, RTL8309N_GLOBAL);
+	else
+		*f = (struct rtl8309n_field)
+			FLC_FIELD(RTL8309N_FLC_QUEUE_OFF_REG + port / per_reg,
+				  RTL8309N_FLC_QUEUE_OFF(port % per_reg, queue),
+				  RTL8309N_FIELD_FLAG_INV, RTL8309N_GLOBAL);
 	return f;
 }
 
 s32 rtl8309n_qos_queueFlcEnable_set(u32 port, u32 queue, u32 enabled)
 {
-	struct rtl8309n_regfield f;
+	struct rtl8309n_field f;
 
-	return rtl8309n_regfield_set(queue_flc_field(&f, port, queue), 0, enabled);
+	return rtl8309n_field_set(queue_flc_field(&f, port, queue), 0, enabled);
 }
 
 s32 rtl8309n_qos_queueFlcEnable_get(u32 port, u32 queue, u32 *penabled)
 {
-	struct rtl8309n_regfield f;
+	struct rtl8309n_field f;
 
-	return rtl8309n_regfield_get(queue_flc_field(&f, port, queue), 0, penabled);
+	return rtl8309n_field_get(queue_flc_field(&f, port, queue), 0, penabled);
 }
 
 /*
@@ -172,27 +199,57 @@ s32 rtl8309n_qos_queueFlcThr_get(u32 port, u32 queue, u32 type, u32 *pthr)
 	return rtl8309n_reg_get(port, queue_thr_reg(queue, type), queue_thr_page(type), pthr);
 }
 
+s32 rtl8309n_qos_portDscFlcEnable_set(u32 port, u32 enabled)
+{
+	return rtl8309n_field_set(&flc_port_dsc, port, enabled);
+}
+
+s32 rtl8309n_qos_portDscFlcEnable_get(u32 port, u32 *penabled)
+{
+	return rtl8309n_field_get(&flc_port_dsc, port, penabled);
+}
+
+s32 rtl8309n_qos_egrFlcEnable_set(u32 port, u32 enabled)
+{
+	return rtl8309n_field_set(&flc_egress, port, enabled);
+}
+
+s32 rtl8309n_qos_egrFlcEnable_get(u32 port, u32 *penabled)
+{
+	return rtl8309n_field_get(&flc_egress, port, penabled);
+}
+
 /* Both thresholds are written unchecked, the first then the second. */
 s32 rtl8309n_qos_portFlcThr_set(u32 port, u32 thr1, u32 thr2, u32 type)
 {
-	const struct rtl8309n_regfield *f = RTL8309N_PICK(flc_port_thr, type);
+	const struct flc_thr_regs *t = RTL8309N_PICK(flc_port_thr, type);
 
-	if (port > RTL8309N_MAX_PORT || !f)
+	if (port > RTL8309N_MAX_PORT || !t)
 		return RT_ERR_FAILED;
 
-	rtl8309n_reg_set(port, f->regad, f->npage, (u16)thr1);
-	rtl8309n_reg_set(port, f->regad + 1, f->npage, (u16)thr2);
+	rtl8309n_reg_set(port, t->reg, t->page, (u16)thr1);
+	rtl8309n_reg_set(port, t->reg + 1, t->page, (u16)thr2);
 	return RT_ERR_OK;
 }
 
 s32 rtl8309n_qos_portFlcThr_get(u32 port, u32 *pthr1, u32 *pthr2, u32 type)
 {
-	const struct rtl8309n_regfield *f = RTL8309N_PICK(flc_port_thr, type);
+	const struct flc_thr_regs *t = RTL8309N_PICK(flc_port_thr, type);
 
-	if (port > RTL8309N_MAX_PORT || !f || !pthr1 || !pthr2)
+	if (port > RTL8309N_MAX_PORT || !t || !pthr1 || !pthr2)
 		return RT_ERR_FAILED;
 
-	rtl8309n_reg_get(port, f->regad, f->npage, pthr1);
-	rtl8309n_reg_get(port, f->regad + 1, f->npage, pthr2);
+	rtl8309n_reg_get(port, t->reg, t->page, pthr1);
+	rtl8309n_reg_get(port, t->reg + 1, t->page, pthr2);
 	return RT_ERR_OK;
+}
+
+s32 rtl8309n_qos_igrFlcEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&flc_ingress, 0, enabled);
+}
+
+s32 rtl8309n_qos_igrFlcEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&flc_ingress, 0, penabled);
 }

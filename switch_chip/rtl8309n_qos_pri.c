@@ -6,131 +6,166 @@
  * 802.1p re-marking, and the per-port queue schedulers.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
-#define HIGH	RTL8309N_ACTIVE_HIGH
-#define LOW	RTL8309N_ACTIVE_LOW
+#define QOS_GLOBAL_FIELD(reg, mask, kind)					\
+	RTL8309N_FIELD(RTL8309N_QOS_ADDR, reg, RTL8309N_QOS_PAGE, mask, kind, RTL8309N_GLOBAL)
+#define QOS_MAP_FIELD(reg, mask, index)						\
+	RTL8309N_FIELD(RTL8309N_QOS_MAP_ADDR, reg, RTL8309N_QOS_PAGE, mask,	\
+		       RTL8309N_FIELD_VALUE, index)
+#define QOS_IP_CTRL_FIELD(mask, kind)						\
+	RTL8309N_FIELD(RTL8309N_QOS_IP_ADDR, RTL8309N_QOS_IP_CTRL_REG, RTL8309N_QOS_PAGE,	\
+		       mask, kind, RTL8309N_GLOBAL)
+#define QOS_PORT_FIELD(reg, mask, kind)						\
+	RTL8309N_FIELD(0, reg, RTL8309N_QOS_PORT_PAGE, mask, kind, RTL8309N_PORT_ADDR)
+#define QOS_SCHED_FIELD(reg, mask)						\
+	RTL8309N_FIELD(0, reg, RTL8309N_QOS_SCHED_PAGE, mask, RTL8309N_FIELD_FLAG,	\
+		       RTL8309N_PORT_ADDR)
 
-static const struct rtl8309n_regfield qos_soft_reset =
-	RTL8309N_GLOBAL_FIELD(RTL8309N_QOS_RESET_ADDR, RTL8309N_QOS_RESET_REG,
-			      RTL8309N_QOS_RESET_PAGE, RTL8309N_QOS_RESET_BIT, 1);
+static const struct rtl8309n_field qos_soft_reset =
+	RTL8309N_FIELD(RTL8309N_QOS_RESET_ADDR, RTL8309N_QOS_RESET_REG, RTL8309N_QOS_RESET_PAGE,
+		       RTL8309N_QOS_RESET, RTL8309N_FIELD_FLAG, RTL8309N_GLOBAL);
+static const struct rtl8309n_field qos_queue_num =
+	QOS_GLOBAL_FIELD(RTL8309N_QOS_QNUM_REG, RTL8309N_QOS_QNUM, RTL8309N_FIELD_VALUE);
 
-/* Stored as the number of queues - 1. */
-static const struct rtl8309n_regfield qos_queue_num =
-	RTL8309N_GLOBAL_FIELD(RTL8309N_QOS_ADDR, RTL8309N_QOS_QNUM_REG, RTL8309N_QOS_PAGE, 0, 2);
-
-/* Queue of internal priority p in (6, 17 + port, 16): priority 0 on top. */
-#define QMAP(lsb)							\
-	{ RTL8309N_QOS_MAP_ADDR, RTL8309N_QOS_QMAP_REG, RTL8309N_QOS_PAGE,	\
-	  lsb, 2, HIGH, RTL8309N_PORT_REG }
-static const struct rtl8309n_regfield qos_qmap[RTL8309N_QOS_MAX_PRI + 1] = {
-	QMAP(6), QMAP(4), QMAP(2), QMAP(0),
+/* By internal priority. */
+#define QOS_QMAP_FIELD(p)	\
+	QOS_MAP_FIELD(RTL8309N_QOS_QMAP_REG, RTL8309N_QOS_QMAP_PRI(p), RTL8309N_PORT_REG)
+static const struct rtl8309n_field qos_qmap[RTL8309N_QOS_MAX_PRI + 1] = {
+	QOS_QMAP_FIELD(0), QOS_QMAP_FIELD(1), QOS_QMAP_FIELD(2), QOS_QMAP_FIELD(3),
 };
 
-/* 802.1p value written into the egress tag for internal priority p. */
-#define REMARK(p)							\
-	{ RTL8309N_QOS_MAP_ADDR, RTL8309N_QOS_1P_REMARK_REG, RTL8309N_QOS_PAGE,	\
-	  (p) * RTL8309N_QOS_1P_REMARK_WIDTH, RTL8309N_QOS_1P_REMARK_WIDTH,	\
-	  HIGH, RTL8309N_GLOBAL }
-static const struct rtl8309n_regfield qos_1p_remark[RTL8309N_QOS_MAX_PRI + 1] = {
-	REMARK(0), REMARK(1), REMARK(2), REMARK(3),
+/* 802.1p value written into the egress tag, by internal priority. */
+#define QOS_REMARK_FIELD(p)	\
+	QOS_MAP_FIELD(RTL8309N_QOS_1P_REMARK_REG, RTL8309N_QOS_1P_REMARK(p), RTL8309N_GLOBAL)
+static const struct rtl8309n_field qos_1p_remark[RTL8309N_QOS_MAX_PRI + 1] = {
+	QOS_REMARK_FIELD(0), QOS_REMARK_FIELD(1), QOS_REMARK_FIELD(2), QOS_REMARK_FIELD(3),
 };
 
-/* Per port, page 10. */
-#define PORT_PRI(reg, lsb, width, pol)					\
-	{ 0, reg, RTL8309N_QOS_PORT_PAGE, lsb, width, pol, RTL8309N_PORT_ADDR }
-static const struct rtl8309n_regfield qos_1p_remark_en =
-	PORT_PRI(RTL8309N_QOS_SRC_REG, RTL8309N_QOS_1P_REMARK_EN_BIT, 1, HIGH);
-static const struct rtl8309n_regfield qos_port_pri =
-	PORT_PRI(RTL8309N_QOS_PORT_PRI_REG, 0, 2, HIGH);
-static const struct rtl8309n_regfield qos_1q_pri_bit2 =
-	PORT_PRI(RTL8309N_QOS_1Q_PORT_PRI_REG, RTL8309N_QOS_1Q_PORT_PRI_BIT2, 1, HIGH);
+static const struct rtl8309n_field qos_1p_remark_en =
+	QOS_PORT_FIELD(RTL8309N_QOS_SRC_REG, RTL8309N_QOS_SRC_1P_REMARK_EN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field qos_port_pri =
+	QOS_PORT_FIELD(RTL8309N_QOS_PORT_PRI_REG, RTL8309N_QOS_PORT_PRI, RTL8309N_FIELD_VALUE);
+static const struct rtl8309n_field qos_1q_pri_upper =
+	QOS_PORT_FIELD(RTL8309N_QOS_1Q_PORT_PRI_REG, RTL8309N_QOS_1Q_PORT_PRI_UPPER,
+		       RTL8309N_FIELD_FLAG);
 
 /*
  * Disable bit of each priority source, by register-layer code.  Codes 0, 5
  * and 6 name no source: the setter writes nothing, the getter reports 0.
  */
-#define SRC_OFF(bit)	PORT_PRI(RTL8309N_QOS_SRC_REG, bit, 1, LOW)
-static const struct rtl8309n_regfield qos_src[RTL8309N_PRISRC_ACL + 1] = {
+#define QOS_SRC_FIELD(mask)	\
+	QOS_PORT_FIELD(RTL8309N_QOS_SRC_REG, mask, RTL8309N_FIELD_FLAG_INV)
+static const struct rtl8309n_field qos_src[RTL8309N_PRISRC_ACL + 1] = {
 	[0] = RTL8309N_NO_FIELD(RTL8309N_PORT_ADDR),
-	[RTL8309N_PRISRC_PORT] = SRC_OFF(RTL8309N_QOS_SRC_PORT_OFF_BIT),
-	[RTL8309N_PRISRC_DOT1Q] = SRC_OFF(RTL8309N_QOS_SRC_1Q_OFF_BIT),
-	[RTL8309N_PRISRC_DSCP] = SRC_OFF(RTL8309N_QOS_SRC_DSCP_OFF_BIT),
-	[RTL8309N_PRISRC_IP_ADDR] = SRC_OFF(RTL8309N_QOS_SRC_IP_OFF_BIT),
+	[RTL8309N_PRISRC_PORT] = QOS_SRC_FIELD(RTL8309N_QOS_SRC_PORT_OFF),
+	[RTL8309N_PRISRC_DOT1Q] = QOS_SRC_FIELD(RTL8309N_QOS_SRC_1Q_OFF),
+	[RTL8309N_PRISRC_DSCP] = QOS_SRC_FIELD(RTL8309N_QOS_SRC_DSCP_OFF),
+	[RTL8309N_PRISRC_IP_ADDR] = QOS_SRC_FIELD(RTL8309N_QOS_SRC_IP_OFF),
 	[5] = RTL8309N_NO_FIELD(RTL8309N_PORT_ADDR),
 	[6] = RTL8309N_NO_FIELD(RTL8309N_PORT_ADDR),
-	[RTL8309N_PRISRC_ACL] = SRC_OFF(RTL8309N_QOS_SRC_ACL_OFF_BIT),
+	[RTL8309N_PRISRC_ACL] = QOS_SRC_FIELD(RTL8309N_QOS_SRC_ACL_OFF),
 };
 
-/* IP-address entries A and B share (4, 22, 16), B four bits above A. */
-#define IP_CTRL(entry, lsb, width)					\
-	{ RTL8309N_QOS_IP_ADDR, RTL8309N_QOS_IP_CTRL_REG, RTL8309N_QOS_PAGE,	\
-	  (lsb) + (entry) * RTL8309N_QOS_IP_ENTRY_SHIFT, width, HIGH, RTL8309N_GLOBAL }
-static const struct rtl8309n_regfield qos_ip_en[] = {
-	IP_CTRL(RTL8309N_QOS_IP_ENTRY_A, RTL8309N_QOS_IP_EN_BIT, 1),
-	IP_CTRL(RTL8309N_QOS_IP_ENTRY_B, RTL8309N_QOS_IP_EN_BIT, 1),
-};
-static const struct rtl8309n_regfield qos_ip_pri[] = {
-	IP_CTRL(RTL8309N_QOS_IP_ENTRY_A, RTL8309N_QOS_IP_PRI_LSB, 2),
-	IP_CTRL(RTL8309N_QOS_IP_ENTRY_B, RTL8309N_QOS_IP_PRI_LSB, 2),
+/* By entry: RTL8309N_QOS_IP_ENTRY_A, RTL8309N_QOS_IP_ENTRY_B. */
+static const struct rtl8309n_field qos_ip_en[] = {
+	QOS_IP_CTRL_FIELD(RTL8309N_QOS_IP_CTRL_EN_A, RTL8309N_FIELD_FLAG),
+	QOS_IP_CTRL_FIELD(RTL8309N_QOS_IP_CTRL_EN_B, RTL8309N_FIELD_FLAG),
 };
 
-/* Strict-priority flag of queue q, above the queue's WRR weight (page 9). */
-#define STRICT(q)							\
-	{ 0, RTL8309N_QOS_SCHED_REG + (q) / 2, RTL8309N_QOS_SCHED_PAGE,	\
-	  RTL8309N_QOS_SCHED_STRICT_BIT + ((q) % 2) * RTL8309N_QOS_SCHED_UPPER_SHIFT, 1, \
-	  HIGH, RTL8309N_PORT_ADDR }
-static const struct rtl8309n_regfield qos_strict[RTL8309N_QOS_MAX_QUEUE + 1] = {
-	STRICT(0), STRICT(1), STRICT(2), STRICT(3),
+static const struct rtl8309n_field qos_ip_pri[] = {
+	QOS_IP_CTRL_FIELD(RTL8309N_QOS_IP_CTRL_PRI_A, RTL8309N_FIELD_VALUE),
+	QOS_IP_CTRL_FIELD(RTL8309N_QOS_IP_CTRL_PRI_B, RTL8309N_FIELD_VALUE),
 };
 
-RTL8309N_PORT_SEL_ACCESSORS(qos_priToQueMap, qos_qmap, 0)
-RTL8309N_SEL_ACCESSORS(qos_1pRemark, qos_1p_remark)
-RTL8309N_PORT_ACCESSORS(qos_1pRemarkEnable, qos_1p_remark_en)
-RTL8309N_PORT_ACCESSORS(qos_portPri, qos_port_pri)
-RTL8309N_PORT_SEL_ACCESSORS(qos_priSrcEnable, qos_src, 0)
-RTL8309N_SEL_ACCESSORS(qos_ipAddrPriEnable, qos_ip_en)
-RTL8309N_PORT_SEL_ACCESSORS(qos_queueStrictPriEnable, qos_strict, 0)
+/* Strict-priority flag of each queue, above the queue's WRR weight. */
+static const struct rtl8309n_field qos_strict[RTL8309N_QOS_MAX_QUEUE + 1] = {
+	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG, RTL8309N_QOS_SCHED_STRICT_EVEN),
+	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG, RTL8309N_QOS_SCHED_STRICT_ODD),
+	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG + 1, RTL8309N_QOS_SCHED_STRICT_EVEN),
+	QOS_SCHED_FIELD(RTL8309N_QOS_SCHED_REG + 1, RTL8309N_QOS_SCHED_STRICT_ODD),
+};
 
 /* ---- Queues ---- */
 
 s32 rtl8309n_qos_softReset_set(void)
 {
-	return rtl8309n_regfield_set(&qos_soft_reset, 0, RTL8309N_ENABLED);
+	return rtl8309n_field_set(&qos_soft_reset, 0, RTL8309N_ENABLED);
 }
 
 /* The new count takes effect through the soft reset, always the last write. */
 s32 rtl8309n_qos_queueNum_set(u32 num)
 {
 	/* 0 wraps round to a count the field refuses */
-	if (rtl8309n_regfield_set(&qos_queue_num, 0, num - 1) != RT_ERR_OK)
+	if (rtl8309n_field_set(&qos_queue_num, 0, num - 1) != RT_ERR_OK)
 		return RT_ERR_FAILED;
 	return rtl8309n_qos_softReset_set();
 }
 
 s32 rtl8309n_qos_queueNum_get(u32 *pnum)
 {
-	s32 ret = rtl8309n_regfield_get(&qos_queue_num, 0, pnum);
+	s32 ret = rtl8309n_field_get(&qos_queue_num, 0, pnum);
 
 	if (ret == RT_ERR_OK)
 		(*pnum)++;
 	return ret;
 }
 
+s32 rtl8309n_qos_priToQueMap_set(u32 port, u32 pri, u32 queue)
+{
+	return rtl8309n_field_set(RTL8309N_PICK(qos_qmap, pri), port, queue);
+}
+
+s32 rtl8309n_qos_priToQueMap_get(u32 port, u32 pri, u32 *pqueue)
+{
+	return rtl8309n_field_get(RTL8309N_PICK(qos_qmap, pri), port, pqueue);
+}
+
+/* ---- 802.1p re-marking ---- */
+
+s32 rtl8309n_qos_1pRemarkEnable_set(u32 port, u32 enabled)
+{
+	return rtl8309n_field_set(&qos_1p_remark_en, port, enabled);
+}
+
+s32 rtl8309n_qos_1pRemarkEnable_get(u32 port, u32 *penabled)
+{
+	return rtl8309n_field_get(&qos_1p_remark_en, port, penabled);
+}
+
+s32 rtl8309n_qos_1pRemark_set(u32 pri, u32 dot1p)
+{
+	return rtl8309n_field_set(RTL8309N_PICK(qos_1p_remark, pri), 0, dot1p);
+}
+
+s32 rtl8309n_qos_1pRemark_get(u32 pri, u32 *pdot1p)
+{
+	return rtl8309n_field_get(RTL8309N_PICK(qos_1p_remark, pri), 0, pdot1p);
+}
+
 /* ---- Priority sources ---- */
+
+s32 rtl8309n_qos_portPri_set(u32 port, u32 pri)
+{
+	return rtl8309n_field_set(&qos_port_pri, port, pri);
+}
+
+s32 rtl8309n_qos_portPri_get(u32 port, u32 *ppri)
+{
+	return rtl8309n_field_get(&qos_port_pri, port, ppri);
+}
 
 /*
  * The register holds a 3-bit tag priority of which this library uses 0..3:
- * bit 2 is cleared by a separate write first, then @pri is OR-ed in as
- * given (callers keep it within 0..3).  A port whose bit 2 is set has a
- * priority the getter cannot name, and it fails.
+ * the upper bit is cleared by a separate write first, then @pri is OR-ed
+ * in as given (callers keep it within 0..3).  A port whose upper bit is set
+ * has a priority the getter cannot name, and it fails.
  */
 s32 rtl8309n_qos_1QPortPri_set(u32 port, u32 pri)
 {
-	if (rtl8309n_regfield_set(&qos_1q_pri_bit2, port, RTL8309N_DISABLED) != RT_ERR_OK)
+	if (rtl8309n_field_set(&qos_1q_pri_upper, port, RTL8309N_DISABLED) != RT_ERR_OK)
 		return RT_ERR_FAILED;
 	return rtl8309n_reg_update(port, RTL8309N_QOS_1Q_PORT_PRI_REG, RTL8309N_QOS_PORT_PAGE,
-				   RTL8309N_FIELD_MASK(2), pri);
+				   RTL8309N_QOS_1Q_PORT_PRI, pri);
 }
 
 s32 rtl8309n_qos_1QPortPri_get(u32 port, u32 *ppri)
@@ -141,37 +176,37 @@ s32 rtl8309n_qos_1QPortPri_get(u32 port, u32 *ppri)
 		return RT_ERR_FAILED;
 
 	rtl8309n_reg_get(port, RTL8309N_QOS_1Q_PORT_PRI_REG, RTL8309N_QOS_PORT_PAGE, &data);
-	if (data & (1u << RTL8309N_QOS_1Q_PORT_PRI_BIT2))
+	if (data & RTL8309N_QOS_1Q_PORT_PRI_UPPER)
 		return RT_ERR_FAILED;
-	*ppri = data & RTL8309N_FIELD_MASK(2);
+	*ppri = rtl8309n_field_extract(RTL8309N_QOS_1Q_PORT_PRI, data);
 	return RT_ERR_OK;
 }
 
-/* Entry @i of a 2-bit remapping table of SMI address 5, eight to a register. */
-static const struct rtl8309n_regfield *remap_field(struct rtl8309n_regfield *f, u32 first_reg,
-						   u32 entries, u32 i)
+/* Entry @i of a remapping table of SMI address 5, from @first_reg on. */
+static const struct rtl8309n_field *remap_field(struct rtl8309n_field *f, u32 first_reg,
+						u32 entries, u32 i)
 {
 	if (i >= entries)
 		return NULL;
-	*f = (struct rtl8309n_regfield){
-		RTL8309N_QOS_ADDR, first_reg + i / 8, RTL8309N_QOS_PAGE, 2 * (i % 8), 2,
-		HIGH, RTL8309N_GLOBAL,
-	};
+	*f = (struct rtl8309n_field)
+		QOS_GLOBAL_FIELD(first_reg + i / RTL8309N_QOS_REMAP_PER_REG,
+				 RTL8309N_QOS_REMAP_PRI(i % RTL8309N_QOS_REMAP_PER_REG),
+				 RTL8309N_FIELD_VALUE);
 	return f;
 }
 
 static s32 remap_set(u32 first_reg, u32 entries, u32 i, u32 pri)
 {
-	struct rtl8309n_regfield f;
+	struct rtl8309n_field f;
 
-	return rtl8309n_regfield_set(remap_field(&f, first_reg, entries, i), 0, pri);
+	return rtl8309n_field_set(remap_field(&f, first_reg, entries, i), 0, pri);
 }
 
 static s32 remap_get(u32 first_reg, u32 entries, u32 i, u32 *ppri)
 {
-	struct rtl8309n_regfield f;
+	struct rtl8309n_field f;
 
-	return rtl8309n_regfield_get(remap_field(&f, first_reg, entries, i), 0, ppri);
+	return rtl8309n_field_get(remap_field(&f, first_reg, entries, i), 0, ppri);
 }
 
 s32 rtl8309n_qos_1pPriRemap_set(u32 dot1p, u32 pri)
@@ -195,9 +230,9 @@ s32 rtl8309n_qos_dscpPriRemap_get(u32 dscp, u32 *ppri)
 }
 
 /*
- * The chip keeps the four weights interleaved: 2-bit slots from bit 0 of
- * (5, 17, 16) up hold weights 0, 3, 1, 2.  The setter checks them in that
- * same order, before any access.
+ * The chip keeps the four weights interleaved: the slots from the bottom
+ * of (5, 17, 16) up hold weights 0, 3, 1, 2.  The setter checks them in
+ * that same order, before any access.
  */
 static const u8 arbit_slot_weight[RTL8309N_WEIGHT_NUM] = {
 	RTL8309N_WEIGHT_PORT, RTL8309N_WEIGHT_ACL, RTL8309N_WEIGHT_DOT1Q, RTL8309N_WEIGHT_DSCP,
@@ -217,10 +252,10 @@ s32 rtl8309n_qos_priSrcArbit_set(const rtl8309n_qos_priArbitPara_t *pweights)
 
 		if (weight > ARBIT_WEIGHT_MAX)
 			return RT_ERR_FAILED;
-		bits |= weight << (2 * slot);
+		bits |= rtl8309n_field_prep(RTL8309N_QOS_ARBIT_SLOT(slot), weight);
 	}
-	return rtl8309n_field_set(RTL8309N_QOS_ADDR, RTL8309N_QOS_ARBIT_REG, RTL8309N_QOS_PAGE,
-				  0, 2 * RTL8309N_WEIGHT_NUM, bits);
+	return rtl8309n_bits_set(RTL8309N_QOS_ADDR, RTL8309N_QOS_ARBIT_REG, RTL8309N_QOS_PAGE,
+				 RTL8309N_QOS_ARBIT_WEIGHTS, bits);
 }
 
 s32 rtl8309n_qos_priSrcArbit_get(rtl8309n_qos_priArbitPara_t *pweights)
@@ -235,11 +270,32 @@ s32 rtl8309n_qos_priSrcArbit_get(rtl8309n_qos_priArbitPara_t *pweights)
 
 	rtl8309n_reg_get(RTL8309N_QOS_ADDR, RTL8309N_QOS_ARBIT_REG, RTL8309N_QOS_PAGE, &data);
 	for (slot = 0; slot < RTL8309N_WEIGHT_NUM; slot++)
-		pweights->weight[arbit_slot_weight[slot]] = (data >> (2 * slot)) & ARBIT_WEIGHT_MAX;
+		pweights->weight[arbit_slot_weight[slot]] =
+			rtl8309n_field_extract(RTL8309N_QOS_ARBIT_SLOT(slot), data);
 	return RT_ERR_OK;
 }
 
+s32 rtl8309n_qos_priSrcEnable_set(u32 port, u32 type, u32 enabled)
+{
+	return rtl8309n_field_set(RTL8309N_PICK(qos_src, type), port, enabled);
+}
+
+s32 rtl8309n_qos_priSrcEnable_get(u32 port, u32 type, u32 *penabled)
+{
+	return rtl8309n_field_get(RTL8309N_PICK(qos_src, type), port, penabled);
+}
+
 /* ---- IP-address priority ---- */
+
+s32 rtl8309n_qos_ipAddrPriEnable_set(u32 entry, u32 enabled)
+{
+	return rtl8309n_field_set(RTL8309N_PICK(qos_ip_en, entry), 0, enabled);
+}
+
+s32 rtl8309n_qos_ipAddrPriEnable_get(u32 entry, u32 *penabled)
+{
+	return rtl8309n_field_get(RTL8309N_PICK(qos_ip_en, entry), 0, penabled);
+}
 
 /*
  * @pri is compared as a signed number, and what passes is OR-ed in
@@ -248,17 +304,17 @@ s32 rtl8309n_qos_priSrcArbit_get(rtl8309n_qos_priArbitPara_t *pweights)
  */
 s32 rtl8309n_qos_ipAddrPri_set(u32 entry, s32 pri)
 {
-	const struct rtl8309n_regfield *f = RTL8309N_PICK(qos_ip_pri, entry);
+	const struct rtl8309n_field *f = RTL8309N_PICK(qos_ip_pri, entry);
 
 	if (!f || pri > RTL8309N_QOS_MAX_PRI)
 		return RT_ERR_FAILED;
-	return rtl8309n_reg_update(f->phyad, f->regad, f->npage,
-				   RTL8309N_FIELD_MASK(f->width) << f->lsb, (u32)pri << f->lsb);
+	return rtl8309n_reg_update(f->phyad, f->regad, f->npage, f->mask,
+				   (u32)pri << rtl8309n_mask_shift(f->mask));
 }
 
 s32 rtl8309n_qos_ipAddrPri_get(u32 entry, u32 *ppri)
 {
-	return rtl8309n_regfield_get(RTL8309N_PICK(qos_ip_pri, entry), 0, ppri);
+	return rtl8309n_field_get(RTL8309N_PICK(qos_ip_pri, entry), 0, ppri);
 }
 
 /* A 32-bit value in two registers, low half first. */
@@ -306,7 +362,7 @@ s32 rtl8309n_qos_ipAddr_get(u32 entry, u32 *pipaddr, u32 *pipmask)
 /* ---- Queue scheduler ---- */
 
 /*
- * Queues 2q and 2q + 1 share register 17 + q of page 9: a 7-bit weight each,
+ * Queues 2q and 2q + 1 share register 17 + q of page 9: a weight each,
  * under their strict-priority flags, which weight writes keep.
  */
 s32 rtl8309n_qos_queueWrr_set(u32 port, struct rtl8309n_qos_queueWeight weights)
@@ -322,8 +378,9 @@ s32 rtl8309n_qos_queueWrr_set(u32 port, struct rtl8309n_qos_queueWeight weights)
 
 	for (q = 0; q <= RTL8309N_QOS_MAX_QUEUE; q += 2)
 		rtl8309n_reg_update(port, RTL8309N_QOS_SCHED_REG + q / 2, RTL8309N_QOS_SCHED_PAGE,
-				    RTL8309N_QOS_SCHED_WEIGHTS,
-				    w[q] | (u32)w[q + 1] << RTL8309N_QOS_SCHED_UPPER_SHIFT);
+				    RTL8309N_QOS_SCHED_WEIGHT_EVEN | RTL8309N_QOS_SCHED_WEIGHT_ODD,
+				    rtl8309n_field_prep(RTL8309N_QOS_SCHED_WEIGHT_EVEN, w[q]) |
+				    rtl8309n_field_prep(RTL8309N_QOS_SCHED_WEIGHT_ODD, w[q + 1]));
 	return RT_ERR_OK;
 }
 
@@ -338,9 +395,19 @@ s32 rtl8309n_qos_queueWrr_get(u32 port, struct rtl8309n_qos_queueWeight *pweight
 	for (q = 0; q <= RTL8309N_QOS_MAX_QUEUE; q += 2) {
 		rtl8309n_reg_get(port, RTL8309N_QOS_SCHED_REG + q / 2, RTL8309N_QOS_SCHED_PAGE,
 				 &data);
-		pweights->weight[q] = data & RTL8309N_QOS_MAX_WRR_WEIGHT;
+		pweights->weight[q] = rtl8309n_field_extract(RTL8309N_QOS_SCHED_WEIGHT_EVEN, data);
 		pweights->weight[q + 1] =
-			(data >> RTL8309N_QOS_SCHED_UPPER_SHIFT) & RTL8309N_QOS_MAX_WRR_WEIGHT;
+			rtl8309n_field_extract(RTL8309N_QOS_SCHED_WEIGHT_ODD, data);
 	}
 	return RT_ERR_OK;
+}
+
+s32 rtl8309n_qos_queueStrictPriEnable_set(u32 port, u32 queue, u32 enabled)
+{
+	return rtl8309n_field_set(RTL8309N_PICK(qos_strict, queue), port, enabled);
+}
+
+s32 rtl8309n_qos_queueStrictPriEnable_get(u32 port, u32 queue, u32 *penabled)
+{
+	return rtl8309n_field_get(RTL8309N_PICK(qos_strict, queue), port, penabled);
 }

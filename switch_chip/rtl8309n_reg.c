@@ -13,8 +13,7 @@
  * results are not examined: a failed read yields whatever the transport
  * stored, masked to 16 bits.
  */
-#include "rtl8309n_asicdrv.h"
-#include "rtl8309n_regs.h"
+#include "rtl8309n_internal.h"
 
 rtl8309n_smi_write_fn psmiWrite;
 rtl8309n_smi_read_fn psmiRead;

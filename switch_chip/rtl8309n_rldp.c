@@ -6,75 +6,112 @@
  * the storm-filter bits are disable bits in the chip.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
 #define RLDP_ATTR12_MAX		3
 /* 16 is accepted and lands on the storm-filter bit above the field. */
 #define RLDP_ATTR3_MAX		16
-#define RLDP_CTRL_ATTR_BITS	((RTL8309N_RLDP_ATTR12_MASK << RTL8309N_RLDP_ATTR1_SHIFT) | \
-				 (RTL8309N_RLDP_ATTR12_MASK << RTL8309N_RLDP_ATTR2_SHIFT) | \
-				 (RTL8309N_RLDP_ATTR3_MASK << RTL8309N_RLDP_ATTR3_SHIFT))
-#define RLDP_PROTOCOL_MASK	0xFF
+#define RLDP_CTRL_ATTRS		(RTL8309N_RLDP_CTRL_ATTR1 | RTL8309N_RLDP_CTRL_ATTR2 |	\
+				 RTL8309N_RLDP_CTRL_ATTR3)
 
-enum rldp_flag {
-	RLDP_ENABLE,
-	RLDP_PRI,
-	RLDP_TTL,
-	RLDP_STORM,
-	RLDP_VLANTAG,
-	RLDP_IDENTIFIER,
-	RLDP_FLAGS
-};
+#define RLDP_CTRL_FIELD(mask, kind)						\
+	RTL8309N_FIELD(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_CTRL_REG, RTL8309N_RLDP_PAGE,	\
+		       mask, kind, RTL8309N_GLOBAL)
 
-#define RLDP_FLAG(bit, pol) \
-	RTL8309N_GLOBAL_BIT(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_CTRL_REG, RTL8309N_RLDP_PAGE, bit, pol)
-
-static const struct rtl8309n_regfield rldp_flags[RLDP_FLAGS] = {
-	[RLDP_ENABLE] = RLDP_FLAG(RTL8309N_RLDP_DIS_BIT, RTL8309N_ACTIVE_LOW),
-	[RLDP_PRI] = RLDP_FLAG(RTL8309N_RLDP_PRI_EN_BIT, RTL8309N_ACTIVE_HIGH),
-	[RLDP_TTL] = RLDP_FLAG(RTL8309N_RLDP_TTL_EN_BIT, RTL8309N_ACTIVE_HIGH),
-	[RLDP_STORM] = RLDP_FLAG(RTL8309N_RLDP_STORM_DIS_BIT, RTL8309N_ACTIVE_LOW),
-	[RLDP_VLANTAG] = RLDP_FLAG(RTL8309N_RLDP_VLANTAG_EN_BIT, RTL8309N_ACTIVE_HIGH),
-	[RLDP_IDENTIFIER] = RLDP_FLAG(RTL8309N_RLDP_ID_EN_BIT, RTL8309N_ACTIVE_HIGH),
-};
-
+static const struct rtl8309n_field rldp_enable =
+	RLDP_CTRL_FIELD(RTL8309N_RLDP_CTRL_OFF, RTL8309N_FIELD_FLAG_INV);
+static const struct rtl8309n_field rldp_pri =
+	RLDP_CTRL_FIELD(RTL8309N_RLDP_CTRL_PRI_EN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field rldp_ttl =
+	RLDP_CTRL_FIELD(RTL8309N_RLDP_CTRL_TTL_EN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field rldp_storm =
+	RLDP_CTRL_FIELD(RTL8309N_RLDP_CTRL_STORM_OFF, RTL8309N_FIELD_FLAG_INV);
+static const struct rtl8309n_field rldp_vlan_tag =
+	RLDP_CTRL_FIELD(RTL8309N_RLDP_CTRL_VLANTAG_EN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field rldp_identifier =
+	RLDP_CTRL_FIELD(RTL8309N_RLDP_CTRL_ID_EN, RTL8309N_FIELD_FLAG);
 /* The RLPP action bit: set for action 0, clear for action 2. */
-static const struct rtl8309n_regfield rlpp_action =
-	RLDP_FLAG(RTL8309N_RLPP_ACTION_BIT, RTL8309N_ACTIVE_HIGH);
+static const struct rtl8309n_field rlpp_forward =
+	RLDP_CTRL_FIELD(RTL8309N_RLDP_CTRL_RLPP_FORWARD, RTL8309N_FIELD_FLAG);
 
 /*
- * The chip library leaves these getters' pointers unchecked; a null one is
- * refused here like everywhere else rather than written through.
+ * The chip library leaves the flag getters' pointers unchecked; a null one
+ * is refused here like everywhere else rather than written through.
  */
-RTL8309N_GLOBAL_ACCESSORS(rldp_enable, u32, rldp_flags[RLDP_ENABLE])
-RTL8309N_GLOBAL_ACCESSORS(rldp_priEnable, u32, rldp_flags[RLDP_PRI])
-RTL8309N_GLOBAL_ACCESSORS(rldp_ttlEnable, u32, rldp_flags[RLDP_TTL])
-RTL8309N_GLOBAL_ACCESSORS(rldp_stormFilterEnable, u32, rldp_flags[RLDP_STORM])
-RTL8309N_GLOBAL_ACCESSORS(rldp_vlanTagEnable, u32, rldp_flags[RLDP_VLANTAG])
+
+s32 rtl8309n_rldp_enable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&rldp_enable, 0, enabled);
+}
+
+s32 rtl8309n_rldp_enable_get(u32 *pEnabled)
+{
+	return rtl8309n_field_get(&rldp_enable, 0, pEnabled);
+}
+
+s32 rtl8309n_rldp_priEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&rldp_pri, 0, enabled);
+}
+
+s32 rtl8309n_rldp_priEnable_get(u32 *pEnabled)
+{
+	return rtl8309n_field_get(&rldp_pri, 0, pEnabled);
+}
+
+s32 rtl8309n_rldp_ttlEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&rldp_ttl, 0, enabled);
+}
+
+s32 rtl8309n_rldp_ttlEnable_get(u32 *pEnabled)
+{
+	return rtl8309n_field_get(&rldp_ttl, 0, pEnabled);
+}
+
+s32 rtl8309n_rldp_stormFilterEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&rldp_storm, 0, enabled);
+}
+
+s32 rtl8309n_rldp_stormFilterEnable_get(u32 *pEnabled)
+{
+	return rtl8309n_field_get(&rldp_storm, 0, pEnabled);
+}
+
+s32 rtl8309n_rldp_vlanTagEnable_set(u32 enabled)
+{
+	return rtl8309n_field_set(&rldp_vlan_tag, 0, enabled);
+}
+
+s32 rtl8309n_rldp_vlanTagEnable_get(u32 *pEnabled)
+{
+	return rtl8309n_field_get(&rldp_vlan_tag, 0, pEnabled);
+}
 
 /* Unlike its siblings, this one takes any non-zero value as "enable". */
 s32 rtl8309n_rldp_identifierEnable_set(u32 enabled)
 {
-	return rtl8309n_regfield_set(&rldp_flags[RLDP_IDENTIFIER], 0, enabled != 0);
+	return rtl8309n_field_set(&rldp_identifier, 0, enabled != 0);
 }
 
 s32 rtl8309n_rldp_identifierEnable_get(u32 *pEnabled)
 {
-	return rtl8309n_regfield_get(&rldp_flags[RLDP_IDENTIFIER], 0, pEnabled);
+	return rtl8309n_field_get(&rldp_identifier, 0, pEnabled);
 }
 
 s32 rtl8309n_rlpp_action_set(u32 action)
 {
-	return rtl8309n_regfield_code_set(&rlpp_action, 0, action, RTL8309N_ACT_FORWARD,
-					  RTL8309N_ACT_TRAP);
+	return rtl8309n_field_code_set(&rlpp_forward, 0, action, RTL8309N_ACT_FORWARD,
+				       RTL8309N_ACT_TRAP);
 }
 
 s32 rtl8309n_rlpp_action_get(u32 *pAction)
 {
-	return rtl8309n_regfield_code_get(&rlpp_action, 0, pAction, RTL8309N_ACT_FORWARD,
-					  RTL8309N_ACT_TRAP);
+	return rtl8309n_field_code_get(&rlpp_forward, 0, pAction, RTL8309N_ACT_FORWARD,
+				       RTL8309N_ACT_TRAP);
 }
 
+/* attr3 is shifted in unmasked: 16 reaches the storm-filter bit above its field. */
 s32 rtl8309n_rldp_controlAttr_set(const rtl8309n_rldp_controlAttr *pAttr)
 {
 	if (!pAttr || pAttr->attr1 > RLDP_ATTR12_MAX || pAttr->attr2 > RLDP_ATTR12_MAX ||
@@ -82,10 +119,10 @@ s32 rtl8309n_rldp_controlAttr_set(const rtl8309n_rldp_controlAttr *pAttr)
 		return RT_ERR_FAILED;
 
 	rtl8309n_reg_update(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_CTRL_REG, RTL8309N_RLDP_PAGE,
-			    RLDP_CTRL_ATTR_BITS,
-			    (pAttr->attr1 << RTL8309N_RLDP_ATTR1_SHIFT) |
-			    (pAttr->attr2 << RTL8309N_RLDP_ATTR2_SHIFT) |
-			    (pAttr->attr3 << RTL8309N_RLDP_ATTR3_SHIFT));
+			    RLDP_CTRL_ATTRS,
+			    rtl8309n_field_prep(RTL8309N_RLDP_CTRL_ATTR1, pAttr->attr1) |
+			    rtl8309n_field_prep(RTL8309N_RLDP_CTRL_ATTR2, pAttr->attr2) |
+			    pAttr->attr3 << rtl8309n_mask_shift(RTL8309N_RLDP_CTRL_ATTR3));
 	rtl8309n_mac_regs_set(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_MAC_REG, RTL8309N_RLDP_PAGE, 0,
 			      pAttr->mac);
 	return RT_ERR_OK;
@@ -99,29 +136,30 @@ s32 rtl8309n_rldp_controlAttr_get(rtl8309n_rldp_controlAttr *pAttr)
 		return RT_ERR_FAILED;
 
 	rtl8309n_reg_get(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_CTRL_REG, RTL8309N_RLDP_PAGE, &data);
-	pAttr->attr1 = (data >> RTL8309N_RLDP_ATTR1_SHIFT) & RTL8309N_RLDP_ATTR12_MASK;
-	pAttr->attr2 = (data >> RTL8309N_RLDP_ATTR2_SHIFT) & RTL8309N_RLDP_ATTR12_MASK;
-	pAttr->attr3 = (data >> RTL8309N_RLDP_ATTR3_SHIFT) & RTL8309N_RLDP_ATTR3_MASK;
+	pAttr->attr1 = rtl8309n_field_extract(RTL8309N_RLDP_CTRL_ATTR1, data);
+	pAttr->attr2 = rtl8309n_field_extract(RTL8309N_RLDP_CTRL_ATTR2, data);
+	pAttr->attr3 = rtl8309n_field_extract(RTL8309N_RLDP_CTRL_ATTR3, data);
 	rtl8309n_mac_regs_get(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_MAC_REG, RTL8309N_RLDP_PAGE, 0,
 			      pAttr->mac);
 	return RT_ERR_OK;
 }
 
+/* Written as a byte, read back whole. */
 s32 rtl8309n_rldp_protocol_set(u32 protocol)
 {
 	rtl8309n_reg_set(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_PROTO_REG, RTL8309N_RLDP_PAGE,
-			 (u16)(protocol & RLDP_PROTOCOL_MASK));
+			 (u16)rtl8309n_field_prep(RTL8309N_RLDP_PROTO, protocol));
 	return RT_ERR_OK;
 }
 
 s32 rtl8309n_rldp_protocol_get(u32 *pProtocol)
 {
-	return rtl8309n_reg_get_low(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_PROTO_REG, RTL8309N_RLDP_PAGE,
-				    16, pProtocol);
+	return rtl8309n_reg_get_masked(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_PROTO_REG,
+				       RTL8309N_RLDP_PAGE, RTL8309N_GENMASK(15, 0), pProtocol);
 }
 
 s32 rtl8309n_rldp_loopStatus_get(u32 *pStatus)
 {
-	return rtl8309n_reg_get_low(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_STATUS_REG,
-				    RTL8309N_RLDP_PAGE, 16, pStatus);
+	return rtl8309n_reg_get_masked(RTL8309N_RLDP_ADDR, RTL8309N_RLDP_STATUS_REG,
+				       RTL8309N_RLDP_PAGE, RTL8309N_GENMASK(15, 0), pStatus);
 }

@@ -6,7 +6,6 @@
  * holds the per-port enables and directions and the global settings.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
 /* The per-port 802.1X enables reach one port further than the other calls. */
 #define DOT1X_ENABLE_MAX_PORT	(RTL8309N_MAX_PORT + 1)
@@ -27,7 +26,7 @@ s32 rtl8309n_stp_set(u32 port, u32 state)
 
 	rtl8309n_rma_entry_set(RTL8309N_RMA_STP_ENTRY, &stp_rma);
 	rtl8309n_reg_update(port, RTL8309N_STP_REG, RTL8309N_STP_PAGE,
-			    RTL8309N_STP_STATE_MASK, state);
+			    RTL8309N_STP_STATE, state);
 	return RT_ERR_OK;
 }
 
@@ -45,43 +44,57 @@ s32 rtl8309n_stp_get(u32 port, u32 *pState)
 	return RT_ERR_OK;
 }
 
-static s32 dot1x_port_flag_set(u32 port, u32 bit, u32 enabled)
+#define DOT1X_PORT_FIELD(mask)						\
+	RTL8309N_FIELD(0, RTL8309N_DOT1X_PORT_REG, RTL8309N_DOT1X_PORT_PAGE, mask,	\
+		       RTL8309N_FIELD_FLAG, RTL8309N_PORT_ADDR)
+
+static const struct rtl8309n_field dot1x_port_en = DOT1X_PORT_FIELD(RTL8309N_DOT1X_PORT_EN);
+static const struct rtl8309n_field dot1x_port_auth = DOT1X_PORT_FIELD(RTL8309N_DOT1X_PORT_AUTH);
+static const struct rtl8309n_field dot1x_port_dir = DOT1X_PORT_FIELD(RTL8309N_DOT1X_PORT_DIR);
+static const struct rtl8309n_field dot1x_mac_en = DOT1X_PORT_FIELD(RTL8309N_DOT1X_PORT_MAC_EN);
+
+static const struct rtl8309n_field dot1x_mac_dir =
+	RTL8309N_FIELD(RTL8309N_DOT1X_GLB_ADDR, RTL8309N_DOT1X_GLB_REG, RTL8309N_DOT1X_GLB_PAGE,
+		       RTL8309N_DOT1X_GLB_MAC_DIR, RTL8309N_FIELD_FLAG, RTL8309N_GLOBAL);
+
+/*
+ * Port 9 has no registers: the field accessors refuse it without traffic,
+ * and the enables still report success for it.
+ */
+static s32 dot1x_port_flag_set(const struct rtl8309n_field *f, u32 port, u32 enabled)
 {
 	if (port > DOT1X_ENABLE_MAX_PORT)
 		return RT_ERR_FAILED;
-	/* Port 9 has no registers: the primitives refuse it without traffic. */
-	rtl8309n_flag_set(port, RTL8309N_DOT1X_PORT_REG, bit, RTL8309N_DOT1X_PORT_PAGE,
-			  enabled, RTL8309N_ACTIVE_HIGH);
+	rtl8309n_field_set(f, port, enabled);
 	return RT_ERR_OK;
 }
 
-static s32 dot1x_port_flag_get(u32 port, u32 bit, u32 *pEnabled)
+static s32 dot1x_port_flag_get(const struct rtl8309n_field *f, u32 port, u32 *pEnabled)
 {
 	if (!pEnabled || port > DOT1X_ENABLE_MAX_PORT)
 		return RT_ERR_FAILED;
-	rtl8309n_flag_get(port, RTL8309N_DOT1X_PORT_REG, bit, RTL8309N_DOT1X_PORT_PAGE,
-			  pEnabled, RTL8309N_ACTIVE_HIGH);
+	rtl8309n_field_get(f, port, pEnabled);
 	return RT_ERR_OK;
 }
 
 s32 rtl8309n_dot1x_portBasedEnable_set(u32 port, u32 enabled)
 {
-	return dot1x_port_flag_set(port, RTL8309N_DOT1X_PORT_EN_BIT, enabled);
+	return dot1x_port_flag_set(&dot1x_port_en, port, enabled);
 }
 
 s32 rtl8309n_dot1x_portBasedEnable_get(u32 port, u32 *pEnabled)
 {
-	return dot1x_port_flag_get(port, RTL8309N_DOT1X_PORT_EN_BIT, pEnabled);
+	return dot1x_port_flag_get(&dot1x_port_en, port, pEnabled);
 }
 
 s32 rtl8309n_dot1x_macBasedEnable_set(u32 port, u32 enabled)
 {
-	return dot1x_port_flag_set(port, RTL8309N_DOT1X_MAC_EN_BIT, enabled);
+	return dot1x_port_flag_set(&dot1x_mac_en, port, enabled);
 }
 
 s32 rtl8309n_dot1x_macBasedEnable_get(u32 port, u32 *pEnabled)
 {
-	return dot1x_port_flag_get(port, RTL8309N_DOT1X_MAC_EN_BIT, pEnabled);
+	return dot1x_port_flag_get(&dot1x_mac_en, port, pEnabled);
 }
 
 s32 rtl8309n_dot1x_portBased_set(u32 port, u32 isAuth, u32 direction)
@@ -89,10 +102,9 @@ s32 rtl8309n_dot1x_portBased_set(u32 port, u32 isAuth, u32 direction)
 	if (port > RTL8309N_MAX_PORT)
 		return RT_ERR_FAILED;
 
-	rtl8309n_flag_set(port, RTL8309N_DOT1X_PORT_REG, RTL8309N_DOT1X_PORT_AUTH_BIT,
-			  RTL8309N_DOT1X_PORT_PAGE, isAuth, RTL8309N_ACTIVE_HIGH);
-	rtl8309n_regbit_set(port, RTL8309N_DOT1X_PORT_REG, RTL8309N_DOT1X_PORT_DIR_BIT,
-			    RTL8309N_DOT1X_PORT_PAGE, direction != 0);
+	rtl8309n_field_set(&dot1x_port_auth, port, isAuth);
+	/* Any non-zero direction sets the bit, unlike the exactly-1 flags. */
+	rtl8309n_field_set(&dot1x_port_dir, port, direction != 0);
 	return RT_ERR_OK;
 }
 
@@ -104,26 +116,21 @@ s32 rtl8309n_dot1x_portBased_get(u32 port, u32 *pIsAuth, u32 *pDirection)
 		return RT_ERR_FAILED;
 
 	rtl8309n_reg_get(port, RTL8309N_DOT1X_PORT_REG, RTL8309N_DOT1X_PORT_PAGE, &data);
-	*pIsAuth = (data >> RTL8309N_DOT1X_PORT_AUTH_BIT) & 1;
-	*pDirection = (data >> RTL8309N_DOT1X_PORT_DIR_BIT) & 1;
+	*pIsAuth = rtl8309n_field_extract(RTL8309N_DOT1X_PORT_AUTH, data);
+	*pDirection = rtl8309n_field_extract(RTL8309N_DOT1X_PORT_DIR, data);
 	return RT_ERR_OK;
 }
-
-static const struct rtl8309n_regfield dot1x_mac_dir =
-	RTL8309N_GLOBAL_BIT(RTL8309N_DOT1X_GLB_ADDR, RTL8309N_DOT1X_GLB_REG,
-			    RTL8309N_DOT1X_GLB_PAGE, RTL8309N_DOT1X_MAC_DIR_BIT,
-			    RTL8309N_ACTIVE_HIGH);
 
 s32 rtl8309n_dot1x_macBased_set(u32 direction)
 {
 	if (direction > 1)
 		return RT_ERR_FAILED;
-	return rtl8309n_regfield_set(&dot1x_mac_dir, 0, direction);
+	return rtl8309n_field_set(&dot1x_mac_dir, 0, direction);
 }
 
 s32 rtl8309n_dot1x_macBased_get(u32 *pDirection)
 {
-	return rtl8309n_regfield_get(&dot1x_mac_dir, 0, pDirection);
+	return rtl8309n_field_get(&dot1x_mac_dir, 0, pDirection);
 }
 
 /* The unauthorised-packet action is the abnormal-packet trap of type 1. */

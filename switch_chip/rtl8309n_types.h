@@ -1,6 +1,7 @@
 /* SPDX-License-Identifier: GPL-2.0 */
 /*
- * Fixed-width integer types for the RTL8309N chip library.
+ * Fixed-width integer types and register mask helpers for the RTL8309N
+ * chip library.
  *
  * The register layer, the rtk_ API and the chip model are built both into
  * the kernel module and into host test programs, so they must not pull in
@@ -24,5 +25,9 @@ typedef int32_t s32;
 #ifndef NULL
 #define NULL ((void *)0)
 #endif
+
+/* Register masks, like the kernel's BIT() and GENMASK() for 16-bit registers. */
+#define RTL8309N_BIT(n)		((u16)(1u << (n)))
+#define RTL8309N_GENMASK(h, l)	((u16)(((1u << ((h) - (l) + 1)) - 1) << (l)))
 
 #endif /* RTL8309N_TYPES_H */

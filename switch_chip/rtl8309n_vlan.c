@@ -6,80 +6,199 @@
  * action or leaky type does on the wire is the chip's business.
  */
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 
-#define CTRL(lsb, width, pol)						\
-	{ RTL8309N_VLAN_CTRL_ADDR, RTL8309N_VLAN_CTRL_REG, RTL8309N_VLAN_PAGE,	\
-	  lsb, width, pol, RTL8309N_GLOBAL }
-/* (0, 17 + port, 16) */
-#define PORT_VLAN(lsb, width)						\
-	{ RTL8309N_VLAN_PORT_ADDR, RTL8309N_VLAN_PORT_REG, RTL8309N_VLAN_PAGE,	\
-	  lsb, width, RTL8309N_ACTIVE_HIGH, RTL8309N_PORT_REG }
-/* (port, 16, 6) */
-#define PORT_TAG(lsb, width)						\
-	{ 0, RTL8309N_VLAN_TAG_REG, RTL8309N_VLAN_TAG_PAGE,			\
-	  lsb, width, RTL8309N_ACTIVE_HIGH, RTL8309N_PORT_ADDR }
+#define VLAN_CTRL_FIELD(mask, kind)					\
+	RTL8309N_FIELD(RTL8309N_VLAN_CTRL_ADDR, RTL8309N_VLAN_CTRL_REG,	\
+		       RTL8309N_VLAN_PAGE, mask, kind, RTL8309N_GLOBAL)
+#define VLAN_PORT_FIELD(mask, kind)					\
+	RTL8309N_FIELD(RTL8309N_VLAN_PORT_ADDR, RTL8309N_VLAN_PORT_REG,	\
+		       RTL8309N_VLAN_PAGE, mask, kind, RTL8309N_PORT_REG)
+#define VLAN_TAG_FIELD(mask, kind)					\
+	RTL8309N_FIELD(0, RTL8309N_VLAN_TAG_REG, RTL8309N_VLAN_TAG_PAGE,	\
+		       mask, kind, RTL8309N_PORT_ADDR)
 
-#define HIGH	RTL8309N_ACTIVE_HIGH
-#define LOW	RTL8309N_ACTIVE_LOW
-
-static const struct rtl8309n_regfield vlan_enable = CTRL(RTL8309N_VLAN_ENABLE_BIT, 1, HIGH);
-static const struct rtl8309n_regfield vlan_igr_filter =
-	CTRL(RTL8309N_VLAN_IGR_FILTER_OFF_BIT, 1, LOW);
-static const struct rtl8309n_regfield vlan_unmatch_act =
-	CTRL(RTL8309N_VLAN_UNMATCH_ACT_BIT, 1, HIGH);
-static const struct rtl8309n_regfield vlan_fixmc_fid_en =
-	CTRL(RTL8309N_VLAN_FIXMC_FID_EN_BIT, 1, HIGH);
-static const struct rtl8309n_regfield vlan_fixmc_fid = CTRL(RTL8309N_VLAN_FIXMC_FID_LSB, 2, HIGH);
+static const struct rtl8309n_field vlan_enable =
+	VLAN_CTRL_FIELD(RTL8309N_VLAN_CTRL_ENABLE, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field vlan_igr_filter =
+	VLAN_CTRL_FIELD(RTL8309N_VLAN_CTRL_IGR_FILTER_OFF, RTL8309N_FIELD_FLAG_INV);
+static const struct rtl8309n_field vlan_unmatch_act =
+	VLAN_CTRL_FIELD(RTL8309N_VLAN_CTRL_UNMATCH_ACT, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field vlan_fixmc_fid_en =
+	VLAN_CTRL_FIELD(RTL8309N_VLAN_CTRL_FIXMC_FID_EN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field vlan_fixmc_fid =
+	VLAN_CTRL_FIELD(RTL8309N_VLAN_CTRL_FIXMC_FID, RTL8309N_FIELD_VALUE);
 
 /* One disable bit per leaky type 0..4; type 5 is accepted but has none. */
-static const struct rtl8309n_regfield vlan_leaky[RTL8309N_VLAN_LEAKY_TYPES] = {
-	CTRL(RTL8309N_VLAN_LEAKY_OFF_BIT + 0, 1, LOW),
-	CTRL(RTL8309N_VLAN_LEAKY_OFF_BIT + 1, 1, LOW),
-	CTRL(RTL8309N_VLAN_LEAKY_OFF_BIT + 2, 1, LOW),
-	CTRL(RTL8309N_VLAN_LEAKY_OFF_BIT + 3, 1, LOW),
-	CTRL(RTL8309N_VLAN_LEAKY_OFF_BIT + 4, 1, LOW),
+#define VLAN_LEAKY_FIELD(t)	\
+	VLAN_CTRL_FIELD(RTL8309N_VLAN_CTRL_LEAKY_OFF(t), RTL8309N_FIELD_FLAG_INV)
+static const struct rtl8309n_field vlan_leaky[RTL8309N_VLAN_LEAKY_TYPES] = {
+	VLAN_LEAKY_FIELD(0), VLAN_LEAKY_FIELD(1), VLAN_LEAKY_FIELD(2),
+	VLAN_LEAKY_FIELD(3), VLAN_LEAKY_FIELD(4),
 	RTL8309N_NO_FIELD(RTL8309N_GLOBAL),
 };
 
-static const struct rtl8309n_regfield vlan_accept = PORT_VLAN(RTL8309N_VLAN_ACCEPT_LSB, 2);
-static const struct rtl8309n_regfield vlan_tag_aware = PORT_VLAN(RTL8309N_VLAN_TAG_AWARE_BIT, 1);
-static const struct rtl8309n_regfield vlan_discard_nonpvid =
-	PORT_VLAN(RTL8309N_VLAN_DISCARD_NONPVID_BIT, 1);
-static const struct rtl8309n_regfield vlan_pvid_index = PORT_VLAN(RTL8309N_VLAN_PVID_INDEX_LSB, 4);
+static const struct rtl8309n_field vlan_accept =
+	VLAN_PORT_FIELD(RTL8309N_VLAN_PORT_ACCEPT, RTL8309N_FIELD_VALUE);
+static const struct rtl8309n_field vlan_tag_aware =
+	VLAN_PORT_FIELD(RTL8309N_VLAN_PORT_TAG_AWARE, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field vlan_discard_nonpvid =
+	VLAN_PORT_FIELD(RTL8309N_VLAN_PORT_DISCARD_NONPVID, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field vlan_pvid_index =
+	VLAN_PORT_FIELD(RTL8309N_VLAN_PORT_PVID_INDEX, RTL8309N_FIELD_VALUE);
 
-static const struct rtl8309n_regfield vlan_null_vid = PORT_TAG(RTL8309N_VLAN_NULL_VID_BIT, 1);
-static const struct rtl8309n_regfield vlan_tag_insrem = PORT_TAG(RTL8309N_VLAN_TAG_INSREM_LSB, 2);
-static const struct rtl8309n_regfield vlan_igr_ins_en = PORT_TAG(RTL8309N_VLAN_IGR_INS_EN_BIT, 1);
-static const struct rtl8309n_regfield vlan_igr_ins_mask =
-	PORT_TAG(RTL8309N_VLAN_IGR_INS_MASK_LSB, 9);
+static const struct rtl8309n_field vlan_null_vid =
+	VLAN_TAG_FIELD(RTL8309N_VLAN_TAG_NULL_VID, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field vlan_tag_insrem =
+	VLAN_TAG_FIELD(RTL8309N_VLAN_TAG_INSREM, RTL8309N_FIELD_VALUE);
+static const struct rtl8309n_field vlan_igr_ins_en =
+	VLAN_TAG_FIELD(RTL8309N_VLAN_TAG_IGR_INS_EN, RTL8309N_FIELD_FLAG);
+static const struct rtl8309n_field vlan_igr_ins_mask =
+	VLAN_TAG_FIELD(RTL8309N_VLAN_TAG_IGR_INS_MASK, RTL8309N_FIELD_VALUE);
 
-/* ---- Global control, ports, tags ---- */
+/* ---- Global control ---- */
 
-RTL8309N_GLOBAL_ACCESSORS(vlan_enable, s32, vlan_enable)
-RTL8309N_GLOBAL_ACCESSORS(vlan_igrFilterEnable, s32, vlan_igr_filter)
-RTL8309N_GLOBAL_ACCESSORS(vlan_fixMcastFidEnable, s32, vlan_fixmc_fid_en)
-RTL8309N_GLOBAL_ACCESSORS(vlan_fixMcastFid, u32, vlan_fixmc_fid)
-RTL8309N_SEL_ACCESSORS(vlan_leakyEnable, vlan_leaky)
-RTL8309N_PORT_ACCESSORS(vlan_portAcceptFrameType, vlan_accept)
-RTL8309N_PORT_ACCESSORS(vlan_tagAwareEnable, vlan_tag_aware)
-RTL8309N_PORT_ACCESSORS(vlan_discardNonPvidPktEnable, vlan_discard_nonpvid)
-RTL8309N_PORT_ACCESSORS(vlan_portPvidIndex, vlan_pvid_index)
-RTL8309N_PORT_ACCESSORS(vlan_nullVidReplaceEnable, vlan_null_vid)
-RTL8309N_PORT_ACCESSORS(vlan_tagInsertRemove, vlan_tag_insrem)
-RTL8309N_PORT_ACCESSORS(vlan_igrPortTagInsertEnable, vlan_igr_ins_en)
-RTL8309N_PORT_ACCESSORS(vlan_igrPortTagInsert, vlan_igr_ins_mask)
+s32 rtl8309n_vlan_enable_set(s32 enabled)
+{
+	return rtl8309n_field_set(&vlan_enable, 0, (u32)enabled);
+}
+
+s32 rtl8309n_vlan_enable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&vlan_enable, 0, penabled);
+}
+
+s32 rtl8309n_vlan_igrFilterEnable_set(s32 enabled)
+{
+	return rtl8309n_field_set(&vlan_igr_filter, 0, (u32)enabled);
+}
+
+s32 rtl8309n_vlan_igrFilterEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&vlan_igr_filter, 0, penabled);
+}
 
 s32 rtl8309n_vlan_unmatchVidAction_set(u32 action)
 {
-	return rtl8309n_regfield_code_set(&vlan_unmatch_act, 0, action,
-					  RTL8309N_VLAN_UNMATCH_ACT_2, RTL8309N_VLAN_UNMATCH_ACT_3);
+	return rtl8309n_field_code_set(&vlan_unmatch_act, 0, action,
+				       RTL8309N_VLAN_UNMATCH_ACT_2, RTL8309N_VLAN_UNMATCH_ACT_3);
 }
 
 s32 rtl8309n_vlan_unmatchVidAction_get(u32 *paction)
 {
-	return rtl8309n_regfield_code_get(&vlan_unmatch_act, 0, paction,
-					  RTL8309N_VLAN_UNMATCH_ACT_2, RTL8309N_VLAN_UNMATCH_ACT_3);
+	return rtl8309n_field_code_get(&vlan_unmatch_act, 0, paction,
+				       RTL8309N_VLAN_UNMATCH_ACT_2, RTL8309N_VLAN_UNMATCH_ACT_3);
+}
+
+s32 rtl8309n_vlan_leakyEnable_set(u32 type, u32 enabled)
+{
+	return rtl8309n_field_set(RTL8309N_PICK(vlan_leaky, type), 0, enabled);
+}
+
+s32 rtl8309n_vlan_leakyEnable_get(u32 type, u32 *penabled)
+{
+	return rtl8309n_field_get(RTL8309N_PICK(vlan_leaky, type), 0, penabled);
+}
+
+s32 rtl8309n_vlan_fixMcastFidEnable_set(s32 enabled)
+{
+	return rtl8309n_field_set(&vlan_fixmc_fid_en, 0, (u32)enabled);
+}
+
+s32 rtl8309n_vlan_fixMcastFidEnable_get(u32 *penabled)
+{
+	return rtl8309n_field_get(&vlan_fixmc_fid_en, 0, penabled);
+}
+
+s32 rtl8309n_vlan_fixMcastFid_set(u32 fid)
+{
+	return rtl8309n_field_set(&vlan_fixmc_fid, 0, fid);
+}
+
+s32 rtl8309n_vlan_fixMcastFid_get(u32 *pfid)
+{
+	return rtl8309n_field_get(&vlan_fixmc_fid, 0, pfid);
+}
+
+/* ---- Per port ---- */
+
+s32 rtl8309n_vlan_portAcceptFrameType_set(u32 port, u32 type)
+{
+	return rtl8309n_field_set(&vlan_accept, port, type);
+}
+
+s32 rtl8309n_vlan_portAcceptFrameType_get(u32 port, u32 *ptype)
+{
+	return rtl8309n_field_get(&vlan_accept, port, ptype);
+}
+
+s32 rtl8309n_vlan_tagAwareEnable_set(u32 port, u32 enabled)
+{
+	return rtl8309n_field_set(&vlan_tag_aware, port, enabled);
+}
+
+s32 rtl8309n_vlan_tagAwareEnable_get(u32 port, u32 *penabled)
+{
+	return rtl8309n_field_get(&vlan_tag_aware, port, penabled);
+}
+
+s32 rtl8309n_vlan_discardNonPvidPktEnable_set(u32 port, u32 enabled)
+{
+	return rtl8309n_field_set(&vlan_discard_nonpvid, port, enabled);
+}
+
+s32 rtl8309n_vlan_discardNonPvidPktEnable_get(u32 port, u32 *penabled)
+{
+	return rtl8309n_field_get(&vlan_discard_nonpvid, port, penabled);
+}
+
+s32 rtl8309n_vlan_portPvidIndex_set(u32 port, u32 index)
+{
+	return rtl8309n_field_set(&vlan_pvid_index, port, index);
+}
+
+s32 rtl8309n_vlan_portPvidIndex_get(u32 port, u32 *pindex)
+{
+	return rtl8309n_field_get(&vlan_pvid_index, port, pindex);
+}
+
+s32 rtl8309n_vlan_nullVidReplaceEnable_set(u32 port, u32 enabled)
+{
+	return rtl8309n_field_set(&vlan_null_vid, port, enabled);
+}
+
+s32 rtl8309n_vlan_nullVidReplaceEnable_get(u32 port, u32 *penabled)
+{
+	return rtl8309n_field_get(&vlan_null_vid, port, penabled);
+}
+
+s32 rtl8309n_vlan_tagInsertRemove_set(u32 port, u32 mode)
+{
+	return rtl8309n_field_set(&vlan_tag_insrem, port, mode);
+}
+
+s32 rtl8309n_vlan_tagInsertRemove_get(u32 port, u32 *pmode)
+{
+	return rtl8309n_field_get(&vlan_tag_insrem, port, pmode);
+}
+
+s32 rtl8309n_vlan_igrPortTagInsertEnable_set(u32 port, u32 enabled)
+{
+	return rtl8309n_field_set(&vlan_igr_ins_en, port, enabled);
+}
+
+s32 rtl8309n_vlan_igrPortTagInsertEnable_get(u32 port, u32 *penabled)
+{
+	return rtl8309n_field_get(&vlan_igr_ins_en, port, penabled);
+}
+
+s32 rtl8309n_vlan_igrPortTagInsert_set(u32 port, u32 portmask)
+{
+	return rtl8309n_field_set(&vlan_igr_ins_mask, port, portmask);
+}
+
+s32 rtl8309n_vlan_igrPortTagInsert_get(u32 port, u32 *pportmask)
+{
+	return rtl8309n_field_get(&vlan_igr_ins_mask, port, pportmask);
 }
 
 /* ---- Table ---- */
@@ -99,7 +218,7 @@ s32 rtl8309n_vlan_entry_set(u32 index, u32 vid, u32 mbrmsk, u32 untagmsk, u32 fi
 		return RT_ERR_FAILED;
 
 	rtl8309n_reg_set(RTL8309N_VLAN_ENTRY_VID_ADDR, reg, RTL8309N_VLAN_PAGE,
-			 (u16)(vid | fid << RTL8309N_VLAN_ENTRY_FID_SHIFT));
+			 (u16)(vid | rtl8309n_field_prep(RTL8309N_VLAN_ENTRY_FID, fid)));
 	rtl8309n_reg_set(RTL8309N_VLAN_ENTRY_MBR_ADDR, reg, RTL8309N_VLAN_PAGE, (u16)mbrmsk);
 	rtl8309n_reg_set(RTL8309N_VLAN_ENTRY_UNTAG_ADDR, reg, RTL8309N_VLAN_PAGE, (u16)untagmsk);
 	return RT_ERR_OK;
@@ -114,8 +233,8 @@ s32 rtl8309n_vlan_entry_get(u32 index, u32 *pvid, u32 *pmbrmsk, u32 *puntagmsk, 
 		return RT_ERR_FAILED;
 
 	rtl8309n_reg_get(RTL8309N_VLAN_ENTRY_VID_ADDR, reg, RTL8309N_VLAN_PAGE, &word);
-	*pvid = word & RTL8309N_VLAN_ENTRY_VID_MASK;
-	*pfid = (word >> RTL8309N_VLAN_ENTRY_FID_SHIFT) & RTL8309N_VLAN_ENTRY_FID_MASK;
+	*pvid = rtl8309n_field_extract(RTL8309N_VLAN_ENTRY_VID, word);
+	*pfid = rtl8309n_field_extract(RTL8309N_VLAN_ENTRY_FID, word);
 	rtl8309n_reg_get(RTL8309N_VLAN_ENTRY_MBR_ADDR, reg, RTL8309N_VLAN_PAGE, &word);
 	*pmbrmsk = word & RTL8309N_PORT_MASK_ALL;
 	rtl8309n_reg_get(RTL8309N_VLAN_ENTRY_UNTAG_ADDR, reg, RTL8309N_VLAN_PAGE, &word);

@@ -15,7 +15,6 @@
 extern "C" {
 #include "rtl8309n_asicdrv.h"
 #include "rtl8309n_internal.h"
-#include "rtl8309n_regs.h"
 #include "rtk_api.h"
 #include "rtl8309n_sim.h"
 }
