@@ -567,7 +567,7 @@ static int rtl_get_port_link(struct switch_dev *dev, int port, struct switch_por
 	rtk_port_linkStatus_t up = PORT_LINKDOWN;
 	rtk_port_speed_t speed = PORT_SPEED_10M;
 	rtk_port_duplex_t duplex = PORT_HALF_DUPLEX;
-	u32 aneg = 0;
+	u32 nway = 0;
 	u32 c;
 
 	if ((unsigned int)port >= RTL8304_NUM_PORTS)
@@ -601,8 +601,8 @@ static int rtl_get_port_link(struct switch_dev *dev, int port, struct switch_por
 			break;
 		}
 	}
-	rtl8309n_regbit_get(c, 22, 6, 0, &aneg);
-	link->aneg = aneg != 0;
+	rtl8309n_reg_get(c, RTL8309N_PORT_NWAY_REG, RTL8309N_PORT_NWAY_PAGE, &nway);
+	link->aneg = !!(nway & RTL8309N_PORT_NWAY_ON);
 out:
 	mutex_unlock(&rtl8304_lock);
 	return 0;
