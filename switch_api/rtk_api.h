@@ -33,6 +33,7 @@ enum rtk_port_link {
 	PORT_LINKDOWN = 0,
 	PORT_LINKUP = 1,
 };
+
 typedef u32 rtk_port_linkStatus_t;	/* enum rtk_port_link */
 
 /* Line speed; 20M and 200M are the MAC port's double-rate modes. */
@@ -43,6 +44,7 @@ enum rtk_port_speed {
 	PORT_SPEED_200M = 3,
 	PORT_SPEED_1000M = 4,
 };
+
 typedef u32 rtk_port_speed_t;		/* enum rtk_port_speed */
 
 /* Duplex of a port's link. */
@@ -50,6 +52,7 @@ enum rtk_port_duplex {
 	PORT_HALF_DUPLEX = 0,
 	PORT_FULL_DUPLEX = 1,
 };
+
 typedef u32 rtk_port_duplex_t;		/* enum rtk_port_duplex */
 
 /*
@@ -85,6 +88,7 @@ enum rtk_switch_maxPktLen {
 	MAXPKTLEN_USER = 8,	/* user-programmed length; read back only */
 	MAXPKTLEN_END		/* number of classes */
 };
+
 typedef u32 rtk_switch_maxPktLen_t;	/* enum rtk_switch_maxPktLen */
 
 /* Raw MII register access to the embedded PHY of @port (0..7), page 0. */
@@ -149,6 +153,7 @@ enum rtk_vlan_acceptFrameType {
 	ACCEPT_FRAME_TYPE_UNTAG_ONLY = 2,	/* untagged (and priority-tagged) only */
 	ACCEPT_FRAME_TYPE_END			/* number of types */
 };
+
 typedef u32 rtk_vlan_acceptFrameType_t;	/* enum rtk_vlan_acceptFrameType */
 
 /* Whether frames sent to the CPU port carry the CPU tag naming their ingress port. */
@@ -156,6 +161,7 @@ enum rtk_cpu_insert {
 	CPU_INSERT_TO_NONE = 0,	/* no CPU tag (any value but 1 means this) */
 	CPU_INSERT_TO_ALL = 1,	/* every frame to the CPU port is tagged */
 };
+
 typedef u32 rtk_cpu_insert_t;	/* enum rtk_cpu_insert */
 
 /* VLAN block defaults: VLAN 1 in entry 0 with every port, the PVID of all. */
@@ -223,6 +229,7 @@ enum rtk_qos_priSrc {
 	PRI_SRC_DOT1Q = 4,	/* the 802.1Q tag's priority, remapped */
 	PRI_SRC_END		/* number of sources */
 };
+
 typedef u32 rtk_qos_priSrc_t;	/* enum rtk_qos_priSrc */
 
 /*
@@ -367,6 +374,7 @@ enum rtk_mib_counter {
 	RTK_MIB_PKT_FIRST = 4,	/* packet counters 4..15 */
 	RTK_MIB_PKT_LAST = 15,
 };
+
 typedef u32 rtk_mib_counter_t;		/* enum rtk_mib_counter */
 #define RTK_MIB_CNTVAL_WORDS	4	/* size of the result area of rtk_mib_get */
 
@@ -411,6 +419,7 @@ enum rtk_l2_limitLearnAction {
 	RTK_L2_LIMIT_ACT_DROP = 0,
 	RTK_L2_LIMIT_ACT_TRAP_CPU = 2,
 };
+
 typedef u32 rtk_l2_limitLearnCntAction_t;	/* enum rtk_l2_limitLearnAction */
 
 /*
@@ -462,6 +471,7 @@ enum rtk_stp_state {
 	RTK_STP_STATE_LEARNING = 2,
 	RTK_STP_STATE_FORWARDING = 3,
 };
+
 typedef u32 rtk_stp_state_t;		/* enum rtk_stp_state */
 typedef u32 rtk_stp_msti_id_t;		/* spanning-tree instance: the chip has one */
 
@@ -479,6 +489,7 @@ enum rtk_dot1x_unauthOper {
 	RTK_DOT1X_UNAUTH_DROP = 0,
 	RTK_DOT1X_UNAUTH_TRAP_CPU = 1,
 };
+
 typedef u32 rtk_dot1x_unauth_action_t;	/* enum rtk_dot1x_unauthOper */
 
 /* Port-based authorisation state; the setter also takes 2, as unauthorised. */
@@ -486,6 +497,7 @@ enum rtk_dot1x_authStatus {
 	RTK_DOT1X_UNAUTHORIZED = 0,
 	RTK_DOT1X_AUTHORIZED = 1,
 };
+
 typedef u32 rtk_dot1x_auth_status_t;	/* enum rtk_dot1x_authStatus */
 
 /*
@@ -496,6 +508,7 @@ enum rtk_dot1x_direction {
 	RTK_DOT1X_DIRECTION_BOTH = 0,	/* received and sent frames */
 	RTK_DOT1X_DIRECTION_IN = 1,	/* received frames only */
 };
+
 typedef u32 rtk_dot1x_direction_t;	/* enum rtk_dot1x_direction */
 
 /* Unauthorised-packet operation; chip-wide, @port is not looked at. */
@@ -534,12 +547,14 @@ enum rtk_trap_mcastType {
 	RTK_TRAP_MCAST_IPV4 = 1,
 	RTK_TRAP_MCAST_IPV6 = 2,
 };
+
 typedef u32 rtk_mcast_type_t;		/* enum rtk_trap_mcastType */
 
 enum rtk_trap_mcastAction {
 	RTK_TRAP_MCAST_FORWARD = 0,
 	RTK_TRAP_MCAST_DROP = 1,
 };
+
 typedef u32 rtk_trap_mcast_action_t;	/* enum rtk_trap_mcastAction */
 
 /* Unknown multicast handling is chip-wide: @port is checked, not used. */
@@ -560,6 +575,7 @@ enum rtk_trap_igmpAction {
 	RTK_TRAP_IGMP_DROP = 3,
 	RTK_TRAP_IGMP_FORWARD_ALT = 4,	/* read back as RTK_TRAP_IGMP_FORWARD */
 };
+
 typedef u32 rtk_trap_igmp_action_t;	/* enum rtk_trap_igmpAction */
 
 rtk_api_ret_t rtk_trap_igmpCtrlPktAction_set(rtk_igmp_type_t type,

@@ -116,11 +116,15 @@ static rtk_api_ret_t ability_read(rtk_port_t port, const rtk_port_phy_ability_t 
 	       rtk_port_phyReg_get(port, RTL8309N_MII_AN_ADV, padv);
 }
 
-/* The record says autoNegotiation 1 by now, so the restart bit always goes with the enable. */
+/*
+ * The record says autoNegotiation 1 by now, so the restart bit always goes
+ * with the enable.
+ */
 rtk_api_ret_t rtk_port_phyAutoNegoAbility_set(rtk_port_t port, rtk_port_phy_ability_t *pability)
 {
 	return ability_claim(port, pability, 1) ?:
-	       phy_update(port, RTL8309N_MII_AN_ADV, ADV_ABILITY_MASK, adv_from_ability(pability)) ?:
+	       phy_update(port, RTL8309N_MII_AN_ADV, ADV_ABILITY_MASK,
+			  adv_from_ability(pability)) ?:
 	       phy_update(port, RTL8309N_MII_CTRL, CTRL_MODE_MASK,
 			  CTRL_ANEG_ENABLE | CTRL_ANEG_RESTART);
 }

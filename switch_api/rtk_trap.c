@@ -34,22 +34,22 @@ rtk_api_ret_t rtk_trap_unknownMcastPktAction_set(rtk_port_t port, rtk_mcast_type
 {
 	u32 layer_action = mcast_action == RTK_TRAP_MCAST_FORWARD ? RTL8309N_ACT_FORWARD
 								  : RTL8309N_ACT_DROP;
+	u32 layer_type = trap_mcast_layer_type(type);
 
 	return trap_chk_mcast(port, type) ?:
 	       rtk_chk_max(mcast_action, RTK_TRAP_MCAST_DROP, RT_ERR_INPUT) ?:
-	       rtk_ret(rtl8309n_trap_unknownIPMcastPktAction_set(trap_mcast_layer_type(type),
-								  layer_action));
+	       rtk_ret(rtl8309n_trap_unknownIPMcastPktAction_set(layer_type, layer_action));
 }
 
 rtk_api_ret_t rtk_trap_unknownMcastPktAction_get(rtk_port_t port, rtk_mcast_type_t type,
 						 rtk_trap_mcast_action_t *pmcast_action)
 {
 	u32 layer_action = RTL8309N_ACT_FORWARD;
+	u32 layer_type = trap_mcast_layer_type(type);
 	rtk_api_ret_t ret;
 
 	ret = trap_chk_mcast(port, type) ?: rtk_chk_ptr(pmcast_action) ?:
-	      rtk_ret(rtl8309n_trap_unknownIPMcastPktAction_get(trap_mcast_layer_type(type),
-								 &layer_action));
+	      rtk_ret(rtl8309n_trap_unknownIPMcastPktAction_get(layer_type, &layer_action));
 	if (ret == RT_ERR_OK)
 		*pmcast_action = layer_action == RTL8309N_ACT_FORWARD ? RTK_TRAP_MCAST_FORWARD
 									: RTK_TRAP_MCAST_DROP;
@@ -74,9 +74,10 @@ rtk_api_ret_t rtk_trap_igmpCtrlPktAction_get(rtk_igmp_type_t type,
 	u32 layer_action = ~0u;
 	rtk_api_ret_t ret;
 
-	ret = rtk_chk_max(type, TRAP_IGMP_TYPE_MAX, RT_ERR_INPUT) ?: rtk_chk_ptr(pigmp_action) ?:
-	      rtk_ret(rtl8309n_trap_igmpCtrlPktAction_get(trap_igmp_layer_type[type],
-							   &layer_action));
+	ret = rtk_chk_max(type, TRAP_IGMP_TYPE_MAX, RT_ERR_INPUT) ?: rtk_chk_ptr(pigmp_action);
+	if (ret == RT_ERR_OK)
+		ret = rtk_ret(rtl8309n_trap_igmpCtrlPktAction_get(trap_igmp_layer_type[type],
+								  &layer_action));
 	if (ret == RT_ERR_OK && layer_action <= RTK_TRAP_IGMP_DROP)
 		*pigmp_action = layer_action;
 	return ret;

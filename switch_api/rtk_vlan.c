@@ -173,11 +173,16 @@ static const u8 accept_type_to_chip[ACCEPT_FRAME_TYPE_END] = {
 rtk_api_ret_t rtk_vlan_portAcceptFrameType_set(rtk_port_t port,
 					       rtk_vlan_acceptFrameType_t accept_frame_type)
 {
-	return rtk_chk_port(port) ?:
-	       rtk_chk_max(accept_frame_type, ACCEPT_FRAME_TYPE_END - 1,
-			   RT_ERR_VLAN_ACCEPT_FRAME_TYPE) ?:
-	       rtk_ret(rtl8309n_vlan_portAcceptFrameType_set(port,
-							     accept_type_to_chip[accept_frame_type]));
+	rtk_api_ret_t ret;
+	u32 chip_type;
+
+	ret = rtk_chk_port(port) ?:
+	      rtk_chk_max(accept_frame_type, ACCEPT_FRAME_TYPE_END - 1,
+			  RT_ERR_VLAN_ACCEPT_FRAME_TYPE);
+	if (ret != RT_ERR_OK)
+		return ret;
+	chip_type = accept_type_to_chip[accept_frame_type];
+	return rtk_ret(rtl8309n_vlan_portAcceptFrameType_set(port, chip_type));
 }
 
 rtk_api_ret_t rtk_vlan_portAcceptFrameType_get(rtk_port_t port,

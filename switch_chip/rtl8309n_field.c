@@ -9,8 +9,10 @@ s32 rtl8309n_bits_set(u32 phyad, u32 regad, u32 npage, u32 mask, u32 value)
 	u32 data = 0;
 	s32 ret;
 
-	/* reg_get and reg_set check the same arguments: a failed read means
-	 * the write would fail as well, so stop before any traffic. */
+	/*
+	 * reg_get and reg_set check the same arguments: a failed read means
+	 * the write would fail as well, so stop before any traffic.
+	 */
 	ret = rtl8309n_reg_get(phyad, regad, npage, &data);
 	if (ret != RT_ERR_OK)
 		return ret;

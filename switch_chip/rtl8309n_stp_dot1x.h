@@ -25,7 +25,7 @@
 #define RTL8309N_DOT1X_GLB_ADDR		0
 #define RTL8309N_DOT1X_GLB_PAGE		15
 #define RTL8309N_DOT1X_GLB_REG		16
-#define   RTL8309N_DOT1X_GLB_ABNORMAL1_TRAP	0x0001	/* abnormal type 1 (and unauthorised): 1 trap */
+#define   RTL8309N_DOT1X_GLB_ABNORMAL1_TRAP	0x0001	/* abnormal type 1: 1 trap */
 #define   RTL8309N_DOT1X_GLB_MAC_DIR	0x0002
 
 #define RTL8309N_DOT1X_UNAUTH_TYPE	1	/* unauthorised action: abnormal-packet type 1 */
