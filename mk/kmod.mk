@@ -10,7 +10,7 @@
 # Each build runs in a staging directory of symbolic links (build/kmod/<kind>,
 # or build/kmod/<arch> with KDIR) so that no object lands in the source tree
 # and the builds do not overwrite each other's objects.  Any compiler, sparse
-# or modpost warning fails the target.
+# or modpost warning fails the target; the build log is shown on failure.
 
 KMOD_SOURCES = Kbuild drivers/net/phy/rtl8304.c \
 	$(wildcard switch_chip/*.[ch] switch_api/*.[ch] include/linux/*.h include/uapi/linux/*.h)
@@ -49,7 +49,7 @@ define kmod-build
 		mkdir -p $(2)/$$(dirname $$f) && ln -s $(CURDIR)/$$f $(2)/$$f; done
 	@echo "  KMOD    $(2) ($(1))"
 	@$(MAKE) -C $(1) M=$(2) W=1 $(3) $(if $(wildcard $(4)),KBUILD_EXTRA_SYMBOLS=$(4)) \
-		modules >$(2)/build.log 2>&1; rc=$$?; cat $(2)/build.log; exit $$rc
+		modules >$(2)/build.log 2>&1 || { cat $(2)/build.log; exit 1; }
 	@if grep -E 'warning:|WARNING:' $(2)/build.log $(if $(5),| grep -vE '$(5)'); then \
 		echo "kmod: warnings in $(2)/build.log" >&2; exit 1; fi
 endef
