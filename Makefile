@@ -8,7 +8,7 @@
 
 BUILD ?= build
 HOST_BUILD := $(BUILD)/host
-JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+JOBS ?= $(shell nproc)
 
 CHECK_TARGETS := test-host
 
@@ -25,7 +25,9 @@ deps-host:
 	@scripts/ensure-deps.sh host
 
 test-host: deps-host
-	cmake -S tests/host -B $(HOST_BUILD) -DCMAKE_BUILD_TYPE=Debug >/dev/null
+	@mkdir -p $(HOST_BUILD)
+	@cmake -S tests/host -B $(HOST_BUILD) -DCMAKE_BUILD_TYPE=Debug >$(HOST_BUILD)/configure.log 2>&1 || \
+		{ cat $(HOST_BUILD)/configure.log; echo "test-host: cmake configuration failed" >&2; exit 1; }
 	cmake --build $(HOST_BUILD) -j $(JOBS)
 	cd $(HOST_BUILD) && ctest --output-on-failure -j $(JOBS)
 

@@ -1,4 +1,4 @@
-# Virtual board: arm64 kernel in QEMU with the chip model on a real MDIO bus.
+# Virtual board: an ARM kernel in QEMU with the chip model on a real MDIO bus.
 #
 #   make demo                              build everything, boot, walk through the board
 #   make shell                             boot into an interactive busybox shell
@@ -6,15 +6,28 @@
 #   make test-board [BOARD_TESTS=..]       every board/tests/*.sh, one boot each
 #   make board-kernel                      only the kernel tree (KDIR for module builds)
 #
-# Output in $(BOARD_BUILD); $(BOARD_BUILD)/linux is the configured kernel tree.
+# BOARD_KIND=arm64-6.1 (default) or arm-6.12 chooses the board for each of
+# them; the kinds are listed in board/build.sh.  Output in
+# $(BOARD_BUILD)/<kind>; its linux/ is the configured kernel tree.
 
 BOARD_BUILD ?= $(BUILD)/board
+BOARD_KIND ?= arm64-6.1
 BOARD_TESTS ?= $(wildcard board/tests/*.sh)
-BOARD_ENV = BOARD_BUILD=$(abspath $(BOARD_BUILD))
+BOARD_KINDS := $(shell board/build.sh kinds)
 
-CHECK_TARGETS += test-board
+# The kind's settings (KIND_ARCH, KIND_CROSS, ...) as make variables.
+BOARD_KIND_ENV := $(shell BOARD_KIND=$(BOARD_KIND) board/build.sh env)
+ifneq ($(.SHELLSTATUS),0)
+$(error $(BOARD_KIND_ENV))
+endif
+$(foreach v,$(BOARD_KIND_ENV),$(eval $(v)))
 
-.PHONY: board-deps board-kernel board board-driver board-run test-board demo shell
+BOARD_ENV = BOARD_BUILD=$(abspath $(BOARD_BUILD)) BOARD_KIND=$(BOARD_KIND)
+
+CHECK_TARGETS += check-board
+
+.PHONY: board-deps board-kernel board board-modules board-driver board-run test-board \
+	demo shell check-board
 
 board-deps:
 	@scripts/ensure-deps.sh board
@@ -22,17 +35,14 @@ board-deps:
 board-kernel: board-deps
 	@$(BOARD_ENV) board/build.sh kernel
 
+# The kernel and the board's modules: what the driver's module build needs.
+board-modules: board-deps
+	@$(BOARD_ENV) board/build.sh modules
+
 board: board-deps
 	@$(BOARD_ENV) board/build.sh all
 
-# The driver module is built (by the module build's own target) once its
-# sources exist; until then the board runs without it.
-board-driver: board
-	@if [ -f mk/kmod.mk ] && [ -f drivers/net/phy/rtl8304.c ]; then \
-		$(MAKE) --no-print-directory module; \
-	else \
-		echo "board: no driver sources yet, the board runs without rtl8304.ko"; \
-	fi
+board-driver: board module
 
 board-run: board-driver
 	@$(BOARD_ENV) BOARD_NO_BUILD=1 board/run.sh $(if $(BOARD),--board "$(BOARD)") $(SCRIPT)
@@ -45,3 +55,10 @@ demo: board-driver
 
 shell: board-driver
 	@$(BOARD_ENV) BOARD_NO_BUILD=1 board/run.sh $(if $(BOARD),--board "$(BOARD)") --shell
+
+# make check: every kind's board and driver, then every board test on every
+# kind, counted together in one "board: N passed, M failed" line.
+check-board:
+	@for k in $(BOARD_KINDS); do \
+		$(MAKE) --no-print-directory BOARD_KIND=$$k board-driver || exit 1; done
+	@$(BOARD_ENV) board/test.sh $(foreach k,$(BOARD_KINDS),--kind $(k)) $(BOARD_TESTS)

@@ -1,40 +1,97 @@
 #!/bin/bash
 # Build the pieces of the virtual board, each only when it is missing or stale.
 #
-#   build.sh kernel          arm64 kernel (Image, modules_prepare, Module.symvers),
-#                            cached by the hash of board/kernel.config's settings
-#   build.sh rootfs          busybox initramfs part (Debian's busybox-static:arm64)
+#   build.sh kernel          kernel (boot image, modules_prepare, Module.symvers),
+#                            cached by the hash of its configuration fragments
+#   build.sh rootfs          busybox initramfs part (Debian's busybox-static)
 #   build.sh modules         board module, swconfig stand-in, dummy switch
 #   build.sh dtb WORDS...    device tree for a board variant; prints its path
 #   build.sh all             kernel, rootfs and modules
+#   build.sh kinds           the board kinds, one line
+#   build.sh env             the settings of $BOARD_KIND as NAME=VALUE lines
 #
-# Output goes to $BOARD_BUILD (default build/board); build/board/linux is the
-# configured kernel tree that out-of-tree module builds use as KDIR.
+# BOARD_KIND chooses the board (default arm64-6.1, see board_kind below).
+# Output goes to $BOARD_BUILD/$BOARD_KIND (default build/board/<kind>); its
+# linux/ is the configured kernel tree that out-of-tree module builds use as
+# KDIR.
 set -euo pipefail
 
 REPO=$(cd "$(dirname "$0")/.." && pwd)
-OUT=${BOARD_BUILD:-$REPO/build/board}
-case "$OUT" in /*) ;; *) OUT=$REPO/$OUT ;; esac
-JOBS=${JOBS:-$(nproc 2>/dev/null || echo 2)}
-KMAKE=(make ARCH=arm64 CROSS_COMPILE=aarch64-linux-gnu-)
-KSRC_TAR=/usr/src/linux-source-6.1.tar.xz
+BOARD_KINDS="arm64-6.1 arm-6.12"
+KIND=${BOARD_KIND:-arm64-6.1}
+
+# The kernel each board kind runs and the machine QEMU emulates for it.
+# Both are QEMU's "virt" machine: PL011 console, PL061 GPIO, GIC, PSCI.
+board_kind() {
+	case "$1" in
+	arm64-6.1)	# the 64-bit ARM setting the driver was first written for
+		KIND_ARCH=arm64
+		KIND_CROSS=aarch64-linux-gnu-
+		KIND_SOURCE=linux-source-6.1
+		KIND_IMAGE=arch/arm64/boot/Image
+		KIND_QEMU=qemu-system-aarch64
+		KIND_CPU=cortex-a53
+		KIND_DEB_ARCH=arm64
+		KIND_ELF_MACHINE=183	# EM_AARCH64
+		;;
+	arm-6.12)	# 32-bit ARM like the i.MX6UL (Cortex-A7), current kernel
+		KIND_ARCH=arm
+		KIND_CROSS=arm-linux-gnueabihf-
+		KIND_SOURCE=linux-source-6.12
+		KIND_IMAGE=arch/arm/boot/zImage
+		KIND_QEMU=qemu-system-arm
+		KIND_CPU=cortex-a7
+		KIND_DEB_ARCH=armhf
+		KIND_ELF_MACHINE=40	# EM_ARM
+		;;
+	*)
+		echo "board: unknown BOARD_KIND '$1' (kinds: $BOARD_KINDS)"
+		return 1
+		;;
+	esac
+}
+
+case "${1:-all}" in
+kinds) echo "$BOARD_KINDS"; exit 0 ;;
+env)
+	board_kind "$KIND" || exit 2
+	for v in ARCH CROSS SOURCE IMAGE QEMU CPU DEB_ARCH ELF_MACHINE; do
+		eval "echo KIND_$v=\$KIND_$v"
+	done
+	exit 0
+	;;
+esac
+board_kind "$KIND" >&2 || exit 2
+
+ROOT=${BOARD_BUILD:-$REPO/build/board}
+case "$ROOT" in /*) ;; *) ROOT=$REPO/$ROOT ;; esac
+OUT=$ROOT/$KIND
+JOBS=${JOBS:-$(nproc)}
+KMAKE=(make ARCH="$KIND_ARCH" CROSS_COMPILE="$KIND_CROSS")
+KSRC_TAR=/usr/src/$KIND_SOURCE.tar.xz
+# Options of every kind first, then the kind's own.
+FRAGMENTS=("$REPO/board/kernel.config" "$REPO/board/kernel-$KIND.config")
 
 mkdir -p "$OUT"
 
 say() { echo "board: $*"; }
 
-# Run a long command with its output in a log, printing a progress line now and then.
+# Run a step with its output in a log; on failure show the log's end and stop.
+# Long steps print a progress line now and then.
 run_logged() {
-	local log=$1 what=$2 start=$SECONDS
+	local log=$1 what=$2 start=$SECONDS ticker rc=0 at
 	shift 2
-	"$@" >"$log" 2>&1 &
-	local pid=$!
-	while kill -0 "$pid" 2>/dev/null; do
-		sleep 20
-		kill -0 "$pid" 2>/dev/null || break
-		say "  $what: $((SECONDS - start)) s, at $(grep -E '^  [A-Z]' "$log" | tail -1 | sed 's/^ *//')"
-	done
-	if ! wait "$pid"; then
+	(
+		while sleep 20; do
+			at=$(grep -E '^  [A-Z]' "$log" | tail -1 | sed 's/^ */, at /') || at=""
+			say "  $what: $((SECONDS - start)) s$at"
+		done
+	) &
+	ticker=$!
+	"$@" >"$log" 2>&1 || rc=$?
+	kill "$ticker" || true
+	wait "$ticker" || true
+	if [ "$rc" != 0 ]; then
 		tail -40 "$log"
 		say "$what failed (log: $log)"
 		exit 1
@@ -43,11 +100,39 @@ run_logged() {
 
 kernel_hash() {
 	{
-		grep '^CONFIG_' "$REPO/board/kernel.config"
-		dpkg-query -W -f='${Version}\n' linux-source-6.1
-		aarch64-linux-gnu-gcc --version | head -1
+		echo "$KIND"
+		declare -f configure_kernel
+		cat "${FRAGMENTS[@]}" | grep '^CONFIG_'
+		dpkg-query -W -f='${Version}\n' "$KIND_SOURCE"
+		"${KIND_CROSS}gcc" --version | head -1
 	} | sha256sum | cut -c1-12
 }
+
+# A fragment line that Kconfig dropped (a missing dependency, a misspelt or
+# vanished symbol) means the fragment is wrong: say which and stop.
+check_fragments() {
+	local line sym bad=0
+	while read -r line; do
+		case "$line" in CONFIG_*=n) continue ;; CONFIG_*) ;; *) continue ;; esac
+		sym=${line%%=*}
+		grep -qxF "$line" .config && continue
+		say "kernel config: $line did not stick ($(grep "^$sym=" .config || echo unset))"
+		bad=1
+	done < <(cat "${FRAGMENTS[@]}")
+	return $bad
+}
+
+# allnoconfig of the kind's machine (its fragment is already applied there,
+# so that e.g. 32-bit ARM starts from an MMU-based Cortex-A configuration,
+# not the Cortex-M one of a bare allnoconfig), then both fragments merged,
+# the options they bring up taking their defaults.
+# (Run under run_logged, where errexit does not apply: hence the &&.)
+configure_kernel() (
+	cd "$1" &&
+	"${KMAKE[@]}" allnoconfig KCONFIG_ALLCONFIG="${FRAGMENTS[1]}" &&
+	scripts/kconfig/merge_config.sh -m .config "${FRAGMENTS[@]}" &&
+	"${KMAKE[@]}" olddefconfig
+)
 
 build_kernel() {
 	local hash dir
@@ -60,59 +145,69 @@ build_kernel() {
 		flock -u 9
 		return
 	fi
-	say "kernel $hash: first build (unpack, configure, compile: a few minutes)"
+	[ -f "$KSRC_TAR" ] || { say "no $KSRC_TAR (scripts/ensure-deps.sh board installs $KIND_SOURCE)"; exit 1; }
+	say "$KIND kernel $hash: first build (unpack, configure, compile: a few minutes)"
 	rm -rf "$dir"
 	mkdir -p "$dir"
-	tar -xf "$KSRC_TAR" -C "$dir" --strip-components=1
-	say "  unpacked linux-source-6.1"
-	(
-		cd "$dir"
-		"${KMAKE[@]}" allnoconfig >/dev/null
-		scripts/kconfig/merge_config.sh -m .config "$REPO/board/kernel.config" >config.log 2>&1
-		"${KMAKE[@]}" olddefconfig >>config.log 2>&1
-		# A fragment line that Kconfig dropped means the fragment is wrong.
-		local line sym
-		while read -r line; do
-			case "$line" in CONFIG_*=n) continue ;; CONFIG_*) ;; *) continue ;; esac
-			sym=${line%%=*}
-			grep -qx "$line" .config || { say "kernel.config: $line did not stick ($(grep "^$sym=" .config || echo unset))"; exit 1; }
-		done <"$REPO/board/kernel.config"
-	)
-	say "  configured (arm64 allnoconfig + board/kernel.config)"
-	run_logged "$dir/build.log" "kernel build" "${KMAKE[@]}" -C "$dir" -j"$JOBS" Image modules
+	run_logged "$OUT/unpack.log" "unpacking $KIND_SOURCE" \
+		tar -xf "$KSRC_TAR" -C "$dir" --strip-components=1
+	run_logged "$dir/config.log" "kernel configuration" configure_kernel "$dir"
+	(cd "$dir" && check_fragments) || exit 1
+	say "  configured ($KIND_ARCH allnoconfig + board/kernel-$KIND.config + board/kernel.config)"
+	run_logged "$dir/build.log" "kernel build" "${KMAKE[@]}" -C "$dir" -j"$JOBS" \
+		"$(basename "$KIND_IMAGE")" modules
 	run_logged "$dir/prepare.log" "modules_prepare" "${KMAKE[@]}" -C "$dir" modules_prepare
 	touch "$dir/.board-built"
 	ln -sfn "linux-$hash" "$OUT/linux"
 	# Trees of earlier fragments are large and never used again.
 	find "$OUT" -maxdepth 1 -name 'linux-*' ! -name "linux-$hash" -exec rm -rf {} +
-	say "kernel $hash built: $OUT/linux/arch/arm64/boot/Image"
+	say "$KIND kernel $hash built: $OUT/linux/$KIND_IMAGE"
 	flock -u 9
+}
+
+# Debian's busybox-static of the kind's architecture, downloaded once.
+busybox_deb() {
+	local debs=("$OUT"/debs/busybox-static_*_"$KIND_DEB_ARCH".deb) log=$OUT/debs/download.log
+	if [ ! -f "${debs[0]}" ]; then
+		say "downloading busybox-static:$KIND_DEB_ARCH" >&2
+		# Package lists older than the foreign architecture know none of its packages.
+		if ! (cd "$OUT/debs" && apt-get download "busybox-static:$KIND_DEB_ARCH") >"$log" 2>&1; then
+			say "  not in the package lists, updating them" >&2
+			if ! { $(if [ "$(id -u)" -ne 0 ]; then echo sudo; fi) apt-get update -qq &&
+			       (cd "$OUT/debs" && apt-get download "busybox-static:$KIND_DEB_ARCH"); } \
+			       >>"$log" 2>&1; then
+				cat "$log" >&2
+				say "busybox-static:$KIND_DEB_ARCH download failed (log: $log)" >&2
+				exit 1
+			fi
+		fi
+		debs=("$OUT"/debs/busybox-static_*_"$KIND_DEB_ARCH".deb)
+	fi
+	echo "${debs[0]}"
+}
+
+rootfs_fresh() {
+	local f
+	[ -f "$OUT/rootfs.cpio.gz" ] || return 1
+	for f in init board.sh procwrite.c; do
+		[ "$OUT/rootfs.cpio.gz" -nt "$REPO/board/guest/$f" ] || return 1
+	done
 }
 
 build_rootfs() {
 	local deb list=$OUT/rootfs.list d
-	[ -f "$OUT/rootfs.cpio.gz" ] && [ "$OUT/rootfs.cpio.gz" -nt "$REPO/board/guest/init" ] &&
-		[ "$OUT/rootfs.cpio.gz" -nt "$REPO/board/guest/board.sh" ] &&
-		[ "$OUT/rootfs.cpio.gz" -nt "$REPO/board/guest/procwrite.c" ] && return
+	rootfs_fresh && return
 	exec 8>"$OUT/.rootfs.lock"
 	flock 8
 	mkdir -p "$OUT/debs"
-	deb=$(ls "$OUT"/debs/busybox-static_*_arm64.deb 2>/dev/null | head -1 || true)
-	if [ -z "$deb" ]; then
-		say "downloading busybox-static:arm64"
-		# Package lists older than the arm64 architecture know no arm64 packages.
-		(cd "$OUT/debs" && { apt-get download busybox-static:arm64 >/dev/null 2>&1 ||
-			{ $(if [ "$(id -u)" -ne 0 ]; then echo sudo; fi) apt-get update -qq &&
-			  apt-get download busybox-static:arm64 >/dev/null; }; })
-		deb=$(ls "$OUT"/debs/busybox-static_*_arm64.deb | head -1)
-	fi
+	deb=$(busybox_deb)
 	rm -rf "$OUT/debs/x"
 	dpkg-deb -x "$deb" "$OUT/debs/x"
-	aarch64-linux-gnu-gcc -Os -static -nostdlib -ffreestanding -fno-stack-protector \
+	"${KIND_CROSS}gcc" -Os -static -nostdlib -ffreestanding -fno-stack-protector \
 		-Wall -Wextra -Werror -o "$OUT/procwrite" "$REPO/board/guest/procwrite.c"
 	# gen_init_cpio (from the kernel build) writes device nodes without root.
 	# The applet links are made by /init at boot (busybox --install -s): an
-	# arm64 busybox cannot list them on the build host.
+	# ARM busybox cannot list them on the build host.
 	{
 		echo "dir /dev 755 0 0"
 		echo "nod /dev/console 600 0 0 c 5 1"
@@ -127,17 +222,23 @@ build_rootfs() {
 	} >"$list"
 	"$OUT/linux/usr/gen_init_cpio" "$list" | gzip -n >"$OUT/rootfs.cpio.gz.tmp"
 	mv "$OUT/rootfs.cpio.gz.tmp" "$OUT/rootfs.cpio.gz"
-	say "initramfs: $OUT/rootfs.cpio.gz ($(basename "$deb"))"
+	say "$KIND initramfs: $OUT/rootfs.cpio.gz ($(basename "$deb"))"
 	flock -u 8
 }
 
 # The board's modules build in a staging directory so that no object lands
 # in the source tree: it holds symbolic links to the sources and the Kbuild.
 build_modules() {
-	local kmod=$OUT/kmod f
-	mkdir -p "$kmod"
+	local kmod=$OUT/kmod f tree
 	exec 7>"$OUT/.modules.lock"
 	flock 7
+	# Objects built against an earlier kernel tree are stale: start afresh.
+	tree=$(readlink "$OUT/linux")
+	if [ ! -f "$kmod/.tree" ] || [ "$(cat "$kmod/.tree")" != "$tree" ]; then
+		rm -rf "$kmod"
+		mkdir -p "$kmod"
+		echo "$tree" >"$kmod/.tree"
+	fi
 	find "$kmod" -maxdepth 1 -type l -delete
 	for f in "$REPO"/board/mdio-sim/*.c "$REPO"/board/swconfig-test/*.c \
 		 "$REPO"/board/swconfig-dummy/*.c "$REPO"/sim/*.c; do
@@ -146,15 +247,31 @@ build_modules() {
 	ln -s "$REPO/board/Kbuild.modules" "$kmod/Kbuild"
 	if ! "${KMAKE[@]}" -C "$OUT/linux" M="$kmod" W=1 REPO="$REPO" modules >"$kmod/build.log" 2>&1; then
 		cat "$kmod/build.log"
-		say "board modules failed to build"
+		say "$KIND board modules failed to build (log: $kmod/build.log)"
 		exit 1
 	fi
 	if grep -q 'warning:' "$kmod/build.log"; then
 		grep -B2 -A4 'warning:' "$kmod/build.log"
-		say "board modules build with warnings"
+		say "$KIND board modules build with warnings (log: $kmod/build.log)"
 		exit 1
 	fi
 	flock -u 7
+}
+
+# QEMU's own device tree of the machine, as text.  -nic none: the default
+# network card wants a boot ROM (package ipxe-qemu) that the board never uses.
+dump_virt_dts() {
+	local log=$OUT/virt-dtb.log
+	if ! "$KIND_QEMU" -M virt -cpu "$KIND_CPU" -m 512 -smp 2 -nic none -nographic \
+		-machine dumpdtb="$OUT/virt.dtb" >"$log" 2>&1; then
+		say "device tree dump failed: $(tr '\n' ' ' <"$log" | sed 's/ *$//') (log: $log)" >&2
+		exit 1
+	fi
+	if ! dtc -q -I dtb -O dts -o "$OUT/virt.dts.tmp" "$OUT/virt.dtb" >"$log" 2>&1; then
+		say "device tree decompile failed: $(tr '\n' ' ' <"$log" | sed 's/ *$//') (log: $log)" >&2
+		exit 1
+	fi
+	mv "$OUT/virt.dts.tmp" "$OUT/virt.dts"
 }
 
 # Device tree of a board variant.  Words (any order):
@@ -179,12 +296,7 @@ build_dtb() {
 	done
 	exec 6>"$OUT/.dt.lock"
 	flock 6
-	if [ ! -f "$OUT/virt.dts" ]; then
-		qemu-system-aarch64 -M virt -cpu cortex-a53 -m 512 -smp 2 \
-			-machine dumpdtb="$OUT/virt.dtb" -nographic >/dev/null 2>&1
-		dtc -q -I dtb -O dts -o "$OUT/virt.dts.tmp" "$OUT/virt.dtb"
-		mv "$OUT/virt.dts.tmp" "$OUT/virt.dts"
-	fi
+	[ -f "$OUT/virt.dts" ] || dump_virt_dts
 	local name bytes ph nodes="" dts dtb
 	name=$(echo "$model $platform$fec$reset$led1$led2" | tr ' ' '_')
 	dts=$OUT/dt/board-$name.dts
@@ -192,7 +304,7 @@ build_dtb() {
 	mkdir -p "$OUT/dt"
 	if [ ! -f "$dtb" ] || [ "$dtb" -ot "$OUT/virt.dts" ] || [ "$dtb" -ot "$0" ]; then
 		ph=$(sed -n '/pl061@/,/};/s/.*phandle = <\(0x[0-9a-f]*\)>.*/\1/p' "$OUT/virt.dts")
-		[ -n "$ph" ] || { echo "board: no PL061 phandle in virt.dts" >&2; exit 1; }
+		[ -n "$ph" ] || { echo "board: no PL061 phandle in $OUT/virt.dts" >&2; exit 1; }
 		bytes=$(printf '%s' "$model" | od -An -tx1 | tr -s ' \n' ' ' | sed 's/^ //;s/ $//')
 		if [ "$platform" = 1 ]; then
 			nodes+=$'\ttw-platform {\n\t\tcompatible = "fsl,tw-platform";\n'
@@ -222,5 +334,5 @@ rootfs) build_rootfs ;;
 modules) build_kernel; build_modules ;;
 dtb) shift; build_dtb "$@" ;;
 all) build_kernel; build_rootfs; build_modules ;;
-*) echo "usage: $0 kernel|rootfs|modules|dtb WORDS...|all" >&2; exit 2 ;;
+*) echo "usage: $0 kernel|rootfs|modules|dtb WORDS...|all|kinds|env" >&2; exit 2 ;;
 esac

@@ -12,15 +12,20 @@
 # log shows a bug, warning, oops, lockdep or hung-task report, unless it has
 # a line "# kernel-warnings: allowed".
 #
+# BOARD_KIND chooses the board (default arm64-6.1; board/build.sh kinds).
 # In the guest: modules in /modules (rtl8304.ko when the driver has been
 # built), helpers in /lib/board.sh, the script at /board/script.sh and the
 # board words it runs on in /board/variant.
 set -euo pipefail
 
 REPO=$(cd "$(dirname "$0")/.." && pwd)
-OUT=${BOARD_BUILD:-$REPO/build/board}
-case "$OUT" in /*) ;; *) OUT=$REPO/$OUT ;; esac
-export BOARD_BUILD=$OUT
+KIND=${BOARD_KIND:-arm64-6.1}
+settings=$(BOARD_KIND=$KIND "$REPO/board/build.sh" env) || { echo "$settings" >&2; exit 2; }
+eval "$settings"
+ROOT=${BOARD_BUILD:-$REPO/build/board}
+case "$ROOT" in /*) ;; *) ROOT=$REPO/$ROOT ;; esac
+export BOARD_BUILD=$ROOT BOARD_KIND=$KIND
+OUT=$ROOT/$KIND
 
 board=
 limit=
@@ -57,15 +62,16 @@ trap 'rm -rf "$run"' EXIT
 mkdir -p "$run/root/board" "$run/root/modules"
 # Under the module build's lock, so that no half-written module is taken.
 flock -s "$OUT/.modules.lock" cp "$OUT"/kmod/*.ko "$run/root/modules/"
-# The driver: $RTL8304_KO (none: without it), else the newest arm64 build of
-# it (module build output, or a Kbuild run at the repository root).
-is_arm64_ko() { [ -f "$1" ] && [ "$(od -An -tu2 -j18 -N2 "$1" | tr -d ' ')" = 183 ]; }
+# The driver: $RTL8304_KO (none: without it), else the newest build of it
+# for this kind's machine (ELF e_machine): the module build's output for the
+# kind, or a Kbuild run at the repository root.
+is_kind_ko() { [ -f "$1" ] && [ "$(od -An -tu2 -j18 -N2 "$1" | tr -d ' ')" = "$KIND_ELF_MACHINE" ]; }
 ko=${RTL8304_KO:-}
 if [ "$ko" = none ]; then
 	ko=
 elif [ -z "$ko" ]; then
-	for f in "$(dirname "$OUT")/kmod/arm64/rtl8304.ko" "$REPO/rtl8304.ko"; do
-		is_arm64_ko "$f" && { [ -z "$ko" ] || [ "$f" -nt "$ko" ]; } && ko=$f
+	for f in "$(dirname "$ROOT")/kmod/$KIND/rtl8304.ko" "$REPO/rtl8304.ko"; do
+		is_kind_ko "$f" && { [ -z "$ko" ] || [ "$f" -nt "$ko" ]; } && ko=$f
 	done
 fi
 if [ -n "$ko" ]; then
@@ -83,11 +89,11 @@ fi
 (cd "$run/root" && find . | cpio -o -H newc --owner=0:0 --quiet) | gzip -n >"$run/run.cpio.gz"
 cat "$OUT/rootfs.cpio.gz" "$run/run.cpio.gz" >"$run/initrd.gz"
 
-qemu=(qemu-system-aarch64 -M virt -cpu cortex-a53 -smp 2 -m 512 -nographic -no-reboot
-      -nic none -kernel "$OUT/linux/arch/arm64/boot/Image" -initrd "$run/initrd.gz"
+qemu=("$KIND_QEMU" -M virt -cpu "$KIND_CPU" -smp 2 -m 512 -nographic -no-reboot
+      -nic none -kernel "$OUT/linux/$KIND_IMAGE" -initrd "$run/initrd.gz"
       -dtb "$dtb" -append "console=ttyAMA0 rdinit=/init loglevel=1 panic=-1 slub_debug=FZP")
 
-echo "board: booting [${board:-K12M3}]${script:+ with $script}"
+echo "board: booting $KIND [${board:-K12M3}]${script:+ with $script}"
 if [ $shell = 1 ]; then
 	"${qemu[@]}"
 	exit 0

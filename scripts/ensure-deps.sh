@@ -4,7 +4,14 @@
 set -e
 
 host_pkgs="cmake make g++ gcc libc6-dev libgtest-dev pkg-config"
-board_pkgs="qemu-system-arm gcc-aarch64-linux-gnu linux-source-6.1 device-tree-compiler bc flex bison libssl-dev libelf-dev cpio xz-utils kmod"
+# qemu-system-arm has both qemu-system-arm and qemu-system-aarch64.  sparse:
+# the driver's board builds run it (C=2).
+board_pkgs="qemu-system-arm gcc-aarch64-linux-gnu gcc-arm-linux-gnueabihf
+	linux-source-6.1 linux-source-6.12 device-tree-compiler bc flex bison libssl-dev
+	libelf-dev cpio xz-utils kmod sparse"
+# The boards' initramfs takes busybox-static from Debian's archive of each
+# board architecture (board/build.sh downloads it, nothing is installed).
+board_archs="arm64 armhf"
 
 case "$1" in
 host) pkgs=$host_pkgs ;;
@@ -13,22 +20,33 @@ kmod) pkgs="make gcc sparse linux-headers-amd64" ;;
 *) echo "usage: $0 host|board|kmod" >&2; exit 2 ;;
 esac
 
-# The board's initramfs takes busybox-static from Debian's arm64 archive.
-if [ "$1" = board ] && ! dpkg --print-foreign-architectures | grep -qx arm64; then
-	echo "Adding the arm64 architecture to dpkg"
-	S=; [ "$(id -u)" -eq 0 ] || S=sudo
-	$S dpkg --add-architecture arm64
-	$S apt-get update -qq
+SUDO=
+[ "$(id -u)" -eq 0 ] || SUDO=sudo
+update=
+
+if [ "$1" = board ]; then
+	have=" $(dpkg --print-foreign-architectures | tr '\n' ' ') "
+	for a in $board_archs; do
+		case "$have" in *" $a "*) continue ;; esac
+		echo "Adding the $a architecture to dpkg"
+		$SUDO dpkg --add-architecture "$a"
+		update=1
+	done
 fi
 
+# Installed packages, one " name " each (dpkg-query fails on names it does
+# not know, so ask for the whole list).
+installed=" $(dpkg-query -W -f='${Package} ${Status}\n' |
+	sed -n 's/ install ok installed$//p' | tr '\n' ' ') "
 missing=
 for p in $pkgs; do
-	dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "ok installed" || missing="$missing $p"
+	case "$installed" in *" $p "*) ;; *) missing="$missing $p" ;; esac
 done
+
+if [ -n "$update" ] || [ -n "$missing" ]; then
+	$SUDO apt-get update -qq
+fi
 [ -z "$missing" ] && exit 0
 
 echo "Installing:$missing"
-SUDO=
-[ "$(id -u)" -eq 0 ] || SUDO=sudo
-$SUDO apt-get update -qq
 DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y -qq --no-install-recommends $missing

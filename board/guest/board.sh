@@ -12,6 +12,14 @@ BOARD_FAILS=0
 
 have_driver() { [ -f /modules/rtl8304.ko ]; }
 
+# GPIO numbers of the PL061 lines in the fec node (switchnet-reset, led-gpio1,
+# led-gpio2 are lines 0, 1, 2).  Linux 6.1 numbers the controller 504..511;
+# from 6.2 on, chips without a fixed base are numbered from 512 up.
+PL061_BASE=$(sed -n 's/^gpiochip[0-9]*: GPIOs \([0-9]*\)-.*pl061.*/\1/p' /sys/kernel/debug/gpio)
+GPIO_RESET=$((PL061_BASE + 0))
+GPIO_LED1=$((PL061_BASE + 1))
+GPIO_LED2=$((PL061_BASE + 2))
+
 # Switch framework, then the driver (its PHY fixup must exist before the bus
 # is scanned), then the board.  A driver that refuses the platform is not an
 # error here: tests of that case look at the kernel log.

@@ -4,11 +4,14 @@
  * procwrite FILE fault N   write(2) of N bytes from an unmapped address
  *
  * Prints "write: RESULT" (the raw syscall result, -errno on failure).  These
- * are the two writes busybox cannot issue.  Freestanding: raw arm64 system
- * calls, no libc, so the board needs no target C library.
+ * are the two writes busybox cannot issue.  Freestanding: raw system calls
+ * (arm64, or 32-bit ARM EABI), no libc, so the board needs no target C
+ * library.
  */
 #define AT_FDCWD	-100
 #define O_WRONLY	1
+
+#if defined(__aarch64__)
 #define NR_OPENAT	56
 #define NR_WRITE	64
 #define NR_EXIT		93
@@ -23,6 +26,25 @@ static long sys3(long nr, long a, long b, long c)
 	__asm__ volatile("svc #0" : "+r"(x0) : "r"(x8), "r"(x1), "r"(x2) : "memory");
 	return x0;
 }
+#elif defined(__arm__) && defined(__ARM_EABI__)
+#define NR_OPENAT	322
+#define NR_WRITE	4
+#define NR_EXIT		1
+
+/* EABI: the system call number in r7, arguments and result in r0.. */
+static long sys3(long nr, long a, long b, long c)
+{
+	register long r7 __asm__("r7") = nr;
+	register long r0 __asm__("r0") = a;
+	register long r1 __asm__("r1") = b;
+	register long r2 __asm__("r2") = c;
+
+	__asm__ volatile("svc #0" : "+r"(r0) : "r"(r7), "r"(r1), "r"(r2) : "memory");
+	return r0;
+}
+#else
+#error "procwrite: arm64 or 32-bit ARM EABI only"
+#endif
 
 static int streq(const char *a, const char *b)
 {
@@ -40,18 +62,34 @@ static void say(const char *s)
 	sys3(NR_WRITE, 1, (long)s, n);
 }
 
+/*
+ * Digits by subtraction: 32-bit ARM has no divide instruction to count on,
+ * and libgcc's division helpers need a C library.
+ */
 static void say_num(long v)
 {
-	char buf[24], *p = buf + sizeof(buf) - 1;
-	unsigned long u = v < 0 ? -(unsigned long)v : (unsigned long)v;
+	unsigned long long u = v < 0 ? -(unsigned long)v : (unsigned long)v;
+	unsigned long long pow10[20];
+	char buf[24], *p = buf;
+	int n = 0;
 
-	*p = 0;
-	do
-		*--p = '0' + u % 10;
-	while (u /= 10);
 	if (v < 0)
-		*--p = '-';
-	say(p);
+		*p++ = '-';
+	pow10[0] = 1;
+	while (pow10[n] * 10 <= u) {
+		pow10[n + 1] = pow10[n] * 10;
+		n++;
+	}
+	for (; n >= 0; n--) {
+		*p = '0';
+		while (u >= pow10[n]) {
+			u -= pow10[n];
+			(*p)++;
+		}
+		p++;
+	}
+	*p = 0;
+	say(buf);
 }
 
 static long parse(const char *s)
@@ -94,5 +132,13 @@ __attribute__((used)) static void start_c(long *sp)
 	sys3(NR_EXIT, run((int)sp[0], (char **)(sp + 1)), 0, 0);
 }
 
-/* The kernel enters with argc at the stack pointer. */
-__asm__(".text\n.global _start\n_start:\n\tmov x0, sp\n\tbl start_c\n");
+/*
+ * The kernel enters with argc at the stack pointer.  On 32-bit ARM this is
+ * assembled in ARM state; the linker makes the call a blx when start_c is
+ * Thumb-2 code (Debian's armhf default).
+ */
+#if defined(__aarch64__)
+__asm__(".text\n.global _start\n.type _start, %function\n_start:\n\tmov x0, sp\n\tbl start_c\n");
+#else
+__asm__(".text\n.global _start\n.type _start, %function\n_start:\n\tmov r0, sp\n\tbl start_c\n");
+#endif

@@ -45,6 +45,7 @@
 #include <linux/seq_file.h>
 #include <linux/slab.h>
 #include <linux/uaccess.h>
+#include <linux/version.h>
 
 #include "rtl8309n_sim.h"
 
@@ -646,7 +647,7 @@ err_sim:
 	return ret;
 }
 
-static int board_remove(struct platform_device *pdev)
+static void board_teardown(struct platform_device *pdev)
 {
 	struct board *b = platform_get_drvdata(pdev);
 
@@ -659,8 +660,21 @@ static int board_remove(struct platform_device *pdev)
 	mdiobus_free(b->bus);
 	free_netdev(b->ndev);
 	kvfree(b->sim);
+}
+
+/* Linux 6.11 made the platform driver's remove callback return void. */
+#if LINUX_VERSION_CODE >= KERNEL_VERSION(6, 11, 0)
+static void board_remove(struct platform_device *pdev)
+{
+	board_teardown(pdev);
+}
+#else
+static int board_remove(struct platform_device *pdev)
+{
+	board_teardown(pdev);
 	return 0;
 }
+#endif
 
 static struct platform_driver board_driver = {
 	.probe = board_probe,

@@ -122,7 +122,12 @@ static inline struct rtl8304_state *to_rtl8304(struct switch_dev *dev)
 
 static bool rtl8304_gpio_valid(int gpio)
 {
+#if LINUX_VERSION_CODE < KERNEL_VERSION(6, 2, 0)
 	return (unsigned int)gpio < RTL8304_GPIO_LIMIT;
+#else
+	/* Since 6.2 chips without a fixed base are numbered from 512 up. */
+	return gpio_is_valid(gpio);
+#endif
 }
 
 /* Chip ports 0, 3 and 8 are the only ones the board wires up. */
