@@ -60,7 +60,7 @@ hello|***commamd unknow!
 EOF
 check "PHY 3 register 4 written" eq 0x05e1 "$(board_reg phy 3 0 4)"
 check "802.1X MAC-based bits set" eq "2 8" "$(($(board_reg sw 0 15 16) & 2)) $(($(board_reg sw 3 3 16) & 8))"
-check "reset line back high" eq hi "$(gpio_level 504)"
+check "reset line back high" eq hi "$(gpio_level $GPIO_RESET)"
 
 # Counters ("bridge mode" cleared them): read, then "reset port 3".
 echo "bytes 3 2 0x0005000500050005" >$BOARD_DBG/mib

@@ -15,9 +15,9 @@ check "invalid reset line reported, probe goes on" eq "$(printf '%s\n' \
 	"$(klog | grep -E '^switch reset|Registering')"
 led() { [ "$(gpio_level "$1")" = "$2" ]; }
 check "only the lan2 LED requested, dark" eq "1 1" \
-	"$(grep -cE 'rtl8304|switchnet' $G) $(grep -cE 'gpio-506 .*rtl8304 lan2.* out hi' $G)"
+	"$(grep -cE 'rtl8304|switchnet' $G) $(grep -cE "gpio-$GPIO_LED2 .*rtl8304 lan2.* out hi" $G)"
 board_link 0 up
-check "port 0 lights it" wait_until 5 led 506 lo
+check "port 0 lights it" wait_until 5 led $GPIO_LED2 lo
 klog_mark
 echo "switch reset" >/proc/rtl8304
 check "console reset reports it too" eq "switch reset gpio -2 is invalid." "$(klog)"

@@ -15,7 +15,7 @@ insmod /modules/rtl8304_board.ko &
 pid=$!
 seen=
 while kill -0 $pid 2>/dev/null; do
-	seen="$seen $(gpio_level 504)"
+	seen="$seen $(gpio_level $GPIO_RESET)"
 	usleep 50000
 done
 check "board loads" wait $pid
@@ -31,10 +31,10 @@ for a in 0 3 8; do
 done
 check "address 1 keeps its id" eq 0x001cc852 "$(cat $mdio:01/phy_id)"
 check "/proc/rtl8304 mode 0644" has "^-rw-r--r--" "$(ls -l /proc/rtl8304)"
-check "LEDs dark after probe" eq "hi hi" "$(gpio_level 505) $(gpio_level 506)"
-check "LED labels" eq 2 "$(grep -cE 'gpio-505 .*rtl8304 lan1/wan|gpio-506 .*rtl8304 lan2' /sys/kernel/debug/gpio)"
+check "LEDs dark after probe" eq "hi hi" "$(gpio_level $GPIO_LED1) $(gpio_level $GPIO_LED2)"
+check "LED labels" eq 2 "$(grep -cE "gpio-$GPIO_LED1 .*rtl8304 lan1/wan|gpio-$GPIO_LED2 .*rtl8304 lan2" /sys/kernel/debug/gpio)"
 
-leds() { [ "$(gpio_level 505) $(gpio_level 506)" = "$1" ]; }
+leds() { [ "$(gpio_level $GPIO_LED1) $(gpio_level $GPIO_LED2)" = "$1" ]; }
 board_link 0 up
 check "port 0 up lights LED 2 only" wait_until 5 leds "hi lo"
 board_link 3 up

@@ -16,7 +16,7 @@ check "PHY devices 0..8 carry the model's identifiers" \
 	eq "$(printf '0x001cc852 %.0s' 1 2 3 4 5 6 7 8 9)" "$ids"
 check "nothing else on the bus" eq 9 "$(ls -d $dev:* | wc -l)"
 check "MAC attached to address 8" klog_has "eth0 attached to rtl8304-board:08 (Generic PHY)"
-check "PL061 lines exist" grep -q "GPIOs 504-511" /sys/kernel/debug/gpio
+check "PL061 lines exist" grep -q "GPIOs $PL061_BASE-$((PL061_BASE + 7))" /sys/kernel/debug/gpio
 
 check "link control" board_link 3 up
 check "link state reads back" eq "phy 3 up" "$(grep 'phy 3' $BOARD_DBG/link)"
