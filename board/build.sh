@@ -189,8 +189,8 @@ busybox_deb() {
 rootfs_fresh() {
 	local f
 	[ -f "$OUT/rootfs.cpio.gz" ] || return 1
-	for f in init board.sh procwrite.c; do
-		[ "$OUT/rootfs.cpio.gz" -nt "$REPO/board/guest/$f" ] || return 1
+	for f in "$REPO"/board/guest/* "$REPO"/board/guest/bin/*; do
+		[ "$OUT/rootfs.cpio.gz" -nt "$f" ] || return 1
 	done
 }
 
@@ -203,8 +203,20 @@ build_rootfs() {
 	deb=$(busybox_deb)
 	rm -rf "$OUT/debs/x"
 	dpkg-deb -x "$deb" "$OUT/debs/x"
-	"${KIND_CROSS}gcc" -Os -static -nostdlib -ffreestanding -fno-stack-protector \
-		-Wall -Wextra -Werror -o "$OUT/procwrite" "$REPO/board/guest/procwrite.c"
+	# board/guest/bin: each C file a freestanding program (guest.h), any
+	# other file a script; both land in /bin.
+	mkdir -p "$OUT/bin"
+	rm -f "$OUT"/bin/*
+	for f in "$REPO"/board/guest/bin/*; do
+		case "$f" in
+		*.c)
+			"${KIND_CROSS}gcc" -Os -static -nostdlib -ffreestanding -fno-stack-protector \
+				-Wall -Wextra -Werror -I"$REPO/board/guest" \
+				-o "$OUT/bin/$(basename "$f" .c)" "$f"
+			;;
+		*) cp "$f" "$OUT/bin/" ;;
+		esac
+	done
 	# gen_init_cpio (from the kernel build) writes device nodes without root.
 	# The applet links are made by /init at boot (busybox --install -s): an
 	# ARM busybox cannot list them on the build host.
@@ -218,7 +230,9 @@ build_rootfs() {
 		echo "file /bin/busybox $OUT/debs/x/bin/busybox 755 0 0"
 		echo "file /init $REPO/board/guest/init 755 0 0"
 		echo "file /lib/board.sh $REPO/board/guest/board.sh 644 0 0"
-		echo "file /bin/procwrite $OUT/procwrite 755 0 0"
+		for f in "$OUT"/bin/*; do
+			echo "file /bin/$(basename "$f") $f 755 0 0"
+		done
 	} >"$list"
 	"$OUT/linux/usr/gen_init_cpio" "$list" | gzip -n >"$OUT/rootfs.cpio.gz.tmp"
 	mv "$OUT/rootfs.cpio.gz.tmp" "$OUT/rootfs.cpio.gz"

@@ -1,22 +1,28 @@
-// SPDX-License-Identifier: GPL-2.0
+/* SPDX-License-Identifier: GPL-2.0 */
 /*
- * procwrite FILE empty     write(2) of zero bytes
- * procwrite FILE fault N   write(2) of N bytes from an unmapped address
- *
- * Prints "write: RESULT" (the raw syscall result, -errno on failure).  These
- * are the two writes busybox cannot issue.  Freestanding: raw system calls
- * (arm64, or 32-bit ARM EABI), no libc, so the board needs no target C
- * library.
+ * Freestanding support for the virtual board's small guest programs
+ * (the C files of board/guest/bin): raw system calls (arm64, or 32-bit ARM EABI), no
+ * libc, so the board needs no target C library.  Each program defines
+ * run(argc, argv) and ends with GUEST_MAIN.
  */
+#ifndef BOARD_GUEST_H
+#define BOARD_GUEST_H
+
 #define AT_FDCWD	-100
+#define O_RDONLY	0
 #define O_WRONLY	1
+#define O_RDWR		2
 
 #if defined(__aarch64__)
+#define NR_IOCTL	29
 #define NR_OPENAT	56
+#define NR_CLOSE	57
+#define NR_READ		63
 #define NR_WRITE	64
 #define NR_EXIT		93
+#define NR_SOCKET	198
 
-static long sys3(long nr, long a, long b, long c)
+static inline long sys3(long nr, long a, long b, long c)
 {
 	register long x8 __asm__("x8") = nr;
 	register long x0 __asm__("x0") = a;
@@ -27,12 +33,16 @@ static long sys3(long nr, long a, long b, long c)
 	return x0;
 }
 #elif defined(__arm__) && defined(__ARM_EABI__)
-#define NR_OPENAT	322
-#define NR_WRITE	4
 #define NR_EXIT		1
+#define NR_READ		3
+#define NR_WRITE	4
+#define NR_CLOSE	6
+#define NR_IOCTL	54
+#define NR_SOCKET	281
+#define NR_OPENAT	322
 
 /* EABI: the system call number in r7, arguments and result in r0.. */
-static long sys3(long nr, long a, long b, long c)
+static inline long sys3(long nr, long a, long b, long c)
 {
 	register long r7 __asm__("r7") = nr;
 	register long r0 __asm__("r0") = a;
@@ -43,30 +53,35 @@ static long sys3(long nr, long a, long b, long c)
 	return r0;
 }
 #else
-#error "procwrite: arm64 or 32-bit ARM EABI only"
+#error "guest programs: arm64 or 32-bit ARM EABI only"
 #endif
 
-static int streq(const char *a, const char *b)
+static inline int streq(const char *a, const char *b)
 {
 	while (*a && *a == *b)
 		a++, b++;
 	return *a == *b;
 }
 
-static void say(const char *s)
+static inline long slen(const char *s)
 {
 	long n = 0;
 
 	while (s[n])
 		n++;
-	sys3(NR_WRITE, 1, (long)s, n);
+	return n;
+}
+
+static inline void say(const char *s)
+{
+	sys3(NR_WRITE, 1, (long)s, slen(s));
 }
 
 /*
  * Digits by subtraction: 32-bit ARM has no divide instruction to count on,
  * and libgcc's division helpers need a C library.
  */
-static void say_num(long v)
+static inline void say_num(long v)
 {
 	unsigned long long u = v < 0 ? -(unsigned long)v : (unsigned long)v;
 	unsigned long long pow10[20];
@@ -92,7 +107,8 @@ static void say_num(long v)
 	say(buf);
 }
 
-static long parse(const char *s)
+/* A decimal number; anything else ends it. */
+static inline long parse(const char *s)
 {
 	long v = 0;
 
@@ -101,36 +117,7 @@ static long parse(const char *s)
 	return v;
 }
 
-static int run(int argc, char **argv)
-{
-	long fd, ret;
-
-	if (argc < 3 || (streq(argv[2], "fault") && argc < 4)) {
-		say("usage: procwrite FILE empty | procwrite FILE fault N\n");
-		return 2;
-	}
-	fd = sys3(NR_OPENAT, AT_FDCWD, (long)argv[1], O_WRONLY);
-	if (fd < 0) {
-		say("open: ");
-		say_num(fd);
-		say("\n");
-		return 1;
-	}
-	if (streq(argv[2], "empty"))
-		ret = sys3(NR_WRITE, fd, (long)"", 0);
-	else	/* page 0 is never mapped */
-		ret = sys3(NR_WRITE, fd, 16, parse(argv[3]));
-	say("write: ");
-	say_num(ret);
-	say("\n");
-	return 0;
-}
-
-void _start(void);
-__attribute__((used)) static void start_c(long *sp)
-{
-	sys3(NR_EXIT, run((int)sp[0], (char **)(sp + 1)), 0, 0);
-}
+static int run(int argc, char **argv);
 
 /*
  * The kernel enters with argc at the stack pointer.  On 32-bit ARM this is
@@ -138,7 +125,17 @@ __attribute__((used)) static void start_c(long *sp)
  * Thumb-2 code (Debian's armhf default).
  */
 #if defined(__aarch64__)
-__asm__(".text\n.global _start\n.type _start, %function\n_start:\n\tmov x0, sp\n\tbl start_c\n");
+#define GUEST_ENTRY "\tmov x0, sp\n\tbl start_c\n"
 #else
-__asm__(".text\n.global _start\n.type _start, %function\n_start:\n\tmov r0, sp\n\tbl start_c\n");
+#define GUEST_ENTRY "\tmov r0, sp\n\tbl start_c\n"
+#endif
+
+#define GUEST_MAIN							\
+void _start(void);							\
+__attribute__((used)) static void start_c(long *sp)			\
+{									\
+	sys3(NR_EXIT, run((int)sp[0], (char **)(sp + 1)), 0, 0);	\
+}									\
+__asm__(".text\n.global _start\n.type _start, %function\n_start:\n" GUEST_ENTRY)
+
 #endif
