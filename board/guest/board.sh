@@ -139,3 +139,17 @@ finish() {
 	[ "$BOARD_FAILS" -eq 0 ] && echo "all checks passed" || echo "$BOARD_FAILS check(s) failed"
 	exit "$BOARD_FAILS"
 }
+
+# The chip's VLAN table, PVIDs and tag modes (board control "vlan") with runs
+# of spaces squeezed: "entry 1 vid 100 fid 1 member 0x008 untag 0x008",
+# "port 3 pvid_index 1 pvid 100 accept 3 tag_aware 1 tag_mode 2".
+chip_vlans() { tr -s ' ' <"$BOARD_DBG/vlan"; }
+
+# has_line TEXT LINE: for check; TEXT has LINE as one of its lines, or
+# TEXT's line that begins with LINE's first two words is shown.
+has_line() {
+	printf '%s\n' "$1" | grep -qxF -- "$2" && return 0
+	echo "       expected '$2'"
+	echo "       got      '$(printf '%s\n' "$1" | grep "^$(echo "$2" | cut -d' ' -f1-2) ")'"
+	return 1
+}
