@@ -1,6 +1,6 @@
 #!/bin/sh
 # Install the Debian packages a make target needs, only when one is missing.
-# Usage: ensure-deps.sh host|board|kmod
+# Usage: ensure-deps.sh host|board|kmod|dt
 set -e
 
 host_pkgs="cmake make g++ gcc libc6-dev libgtest-dev pkg-config"
@@ -12,12 +12,19 @@ board_pkgs="qemu-system-arm gcc-aarch64-linux-gnu gcc-arm-linux-gnueabihf
 # The boards' initramfs takes busybox-static from Debian's archive of each
 # board architecture (board/build.sh downloads it, nothing is installed).
 board_archs="arm64 armhf"
+# Device-tree checks: dt-schema's dt-doc-validate, dt-mk-schema and
+# dt-validate, and the board trees they check (QEMU's own tree plus ours,
+# built by dtc).  dt-schema 2022.08 resolves $ref and checks "format" through
+# python3-jsonschema, whose format checkers (python3-rfc3987, ...) are only
+# Recommends there: name the ones it imports.
+dt_pkgs="dt-schema python3-rfc3987 device-tree-compiler qemu-system-arm"
 
 case "$1" in
 host) pkgs=$host_pkgs ;;
 board) pkgs="$host_pkgs $board_pkgs" ;;
 kmod) pkgs="make gcc sparse linux-headers-amd64" ;;
-*) echo "usage: $0 host|board|kmod" >&2; exit 2 ;;
+dt) pkgs=$dt_pkgs ;;
+*) echo "usage: $0 host|board|kmod|dt" >&2; exit 2 ;;
 esac
 
 SUDO=
@@ -43,8 +50,12 @@ for p in $pkgs; do
 	case "$installed" in *" $p "*) ;; *) missing="$missing $p" ;; esac
 done
 
+# A mirror caught in the middle of a sync fails the update for one list
+# (seen with bookworm-security's armhf list); the lists already here may
+# still have what is missing, so go on and let the install tell.
 if [ -n "$update" ] || [ -n "$missing" ]; then
-	$SUDO apt-get update -qq
+	$SUDO apt-get update -qq ||
+		echo "ensure-deps: apt-get update failed (above), installing from the lists there are" >&2
 fi
 [ -z "$missing" ] && exit 0
 
