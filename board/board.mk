@@ -24,10 +24,12 @@ $(foreach v,$(BOARD_KIND_ENV),$(eval $(v)))
 
 BOARD_ENV = BOARD_BUILD=$(abspath $(BOARD_BUILD)) BOARD_KIND=$(BOARD_KIND)
 
-CHECK_TARGETS += check-board
+# The device-tree bindings and every board tree (board/dt-check.sh); before
+# the board tests, whose count closes make check.
+CHECK_TARGETS += check-dt check-board
 
 .PHONY: board-deps board-kernel board board-modules board-driver board-run test-board \
-	demo shell check-board
+	demo shell check-dt check-board
 
 board-deps:
 	@scripts/ensure-deps.sh board
@@ -55,6 +57,9 @@ demo: board-driver
 
 shell: board-driver
 	@$(BOARD_ENV) BOARD_NO_BUILD=1 board/run.sh $(if $(BOARD),--board "$(BOARD)") --shell
+
+check-dt:
+	@BOARD_BUILD=$(abspath $(BOARD_BUILD)) board/dt-check.sh $(foreach k,$(BOARD_KINDS),--kind $(k))
 
 # make check: every kind's board and driver, then every board test on every
 # kind, counted together in one "board: N passed, M failed" line.

@@ -6,6 +6,8 @@
 #   build.sh rootfs          busybox initramfs part (Debian's busybox-static)
 #   build.sh modules         board module, swconfig stand-in, dummy switch
 #   build.sh dtb WORDS...    device tree for a board variant; prints its path
+#   build.sh virt-dtb        QEMU's own tree of the machine, which the variants
+#                            extend; prints its path
 #   build.sh all             kernel, rootfs and modules
 #   build.sh kinds           the board kinds, one line
 #   build.sh env             the settings of $BOARD_KIND as NAME=VALUE lines
@@ -342,11 +344,21 @@ build_dtb() {
 	echo "$dtb"
 }
 
+# QEMU's own tree, for checks that tell its nodes from the board's.
+virt_dtb() {
+	exec 6>"$OUT/.dt.lock"
+	flock 6
+	[ -f "$OUT/virt.dts" ] || dump_virt_dts
+	flock -u 6
+	echo "$OUT/virt.dtb"
+}
+
 case "${1:-all}" in
 kernel) build_kernel ;;
 rootfs) build_rootfs ;;
 modules) build_kernel; build_modules ;;
 dtb) shift; build_dtb "$@" ;;
+virt-dtb) virt_dtb ;;
 all) build_kernel; build_rootfs; build_modules ;;
-*) echo "usage: $0 kernel|rootfs|modules|dtb WORDS...|all|kinds|env" >&2; exit 2 ;;
+*) echo "usage: $0 kernel|rootfs|modules|dtb WORDS...|virt-dtb|all|kinds|env" >&2; exit 2 ;;
 esac

@@ -14,10 +14,10 @@ board_pkgs="qemu-system-arm gcc-aarch64-linux-gnu gcc-arm-linux-gnueabihf
 board_archs="arm64 armhf"
 # Device-tree checks: dt-schema's dt-doc-validate, dt-mk-schema and
 # dt-validate, and the board trees they check (QEMU's own tree plus ours,
-# built by dtc).  dt-schema 2022.08 resolves $ref and checks "format" through
-# python3-jsonschema, whose format checkers (python3-rfc3987, ...) are only
-# Recommends there: name the ones it imports.
-dt_pkgs="dt-schema python3-rfc3987 device-tree-compiler qemu-system-arm"
+# built by dtc).  Every module those tools import comes with dt-schema's
+# Depends (python3-jsonschema, -rfc3987, -ruamel.yaml, -libfdt and theirs),
+# none from a Recommends, so --no-install-recommends is enough.
+dt_pkgs="dt-schema device-tree-compiler qemu-system-arm"
 
 case "$1" in
 host) pkgs=$host_pkgs ;;
