@@ -16,7 +16,7 @@ swc() {
 		case "$a" in *" "*) line="$line \"$a\"" ;; *) line="$line $a" ;; esac
 	done
 	echo "$line"
-	sw "$@" | sed 's/^/  /'
+	swconfig "$@" 2>&1 | sed 's/^/  /'
 }
 console() { echo "# echo \"$1\" > /proc/rtl8304"; echo "$1" >/proc/rtl8304; klog; }
 leds() {
@@ -62,14 +62,29 @@ step "Switch device"
 swc list
 swc dev RTL8304MB help
 
-step "VLANs: LAN port (1) in VLAN 100, WAN port (0) in VLAN 200, CPU port (3) tagged in both"
-swc dev RTL8304MB set enable_vlan 1
-swc dev RTL8304MB vlan 1 set ports "1 3t"
-swc dev RTL8304MB vlan 1 set vid 100
-swc dev RTL8304MB vlan 2 set ports "0 3t"
-swc dev RTL8304MB vlan 2 set vid 200
+step "VLANs as OpenWrt sets them up: LAN port (1) in VLAN 1, WAN port (0) in VLAN 2, CPU port (3) tagged in both"
+mkdir -p /etc/config
+cat >/etc/config/network <<'EOF'
+config switch
+	option name 'switch0'
+	option reset '1'
+	option enable_vlan '1'
+
+config switch_vlan
+	option device 'switch0'
+	option vlan '1'
+	option ports '1 3t'
+	option vid '1'
+
+config switch_vlan
+	option device 'switch0'
+	option vlan '2'
+	option ports '0 3t'
+	option vid '2'
+EOF
+show cat /etc/config/network
+swc dev switch0 load network
 swc dev RTL8304MB vlan 2 get ports
-swc dev RTL8304MB set apply
 klog
 
 step "The chip's VLAN table as the board sees it (chip ports 0..8)"

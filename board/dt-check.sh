@@ -60,7 +60,7 @@ result() {
 
 # Show a tool's reports; a root report quotes the whole tree, so long lines
 # are cut (the full text stays in $OUT).
-show() { cut -c1-400 "$@" | sed 's/^/      /'; }
+show() { tr '\037' '\n' <"$1" | cut -c1-400 | sed 's/^/      /'; }
 
 # quiet LOG COMMAND...: run a dt-schema tool; fails when it fails or reports.
 quiet() {
@@ -71,8 +71,9 @@ quiet() {
 	return 1
 }
 
-# reports DTB NAME: dt-validate's reports on DTB, one a line, without the
-# file name, sorted; the tool's own output in $OUT/NAME.log.
+# reports DTB NAME: dt-validate's reports on DTB, one a line (its lines
+# joined by \037), without the file name, sorted; the tool's own output in
+# $OUT/NAME.log.
 reports() {
 	local log=$OUT/$2.log
 	if ! dt-validate -s "$OUT/schema.json" "$1" >"$log" 2>&1; then
@@ -82,7 +83,7 @@ reports() {
 	fi
 	awk -v f="$1: " '
 		index($0, f) == 1 { if (r != "") print r; r = substr($0, length(f) + 1); next }
-		{ r = r " | " $0 }
+		{ r = r "\037" $0 }
 		END { if (r != "") print r }' "$log" | sort
 }
 
@@ -106,12 +107,14 @@ fi
 
 for d in "${docs[@]}"; do
 	n=${d//\//_}
-	dt-extract-example "$BIND/$d" >"$OUT/$n.example.dts" &&
-		dtc -q -I dts -O dtb -o "$OUT/$n.example.dtb" "$OUT/$n.example.dts" >"$OUT/$n.dtc.log" 2>&1 &&
+	if dt-extract-example "$BIND/$d" >"$OUT/$n.example.dts" 2>"$OUT/$n.dtc.log" &&
+	   dtc -q -I dts -O dtb -o "$OUT/$n.example.dtb" "$OUT/$n.example.dts" >>"$OUT/$n.dtc.log" 2>&1; then
 		quiet "$OUT/$n.example.log" dt-validate -s "$OUT/schema.json" "$OUT/$n.example.dtb"
-	rc=$?
-	[ $rc = 0 ] || show "$OUT/$n.dtc.log"
-	result $rc "examples of $d"
+		result $? "examples of $d"
+	else
+		show "$OUT/$n.dtc.log"
+		result 1 "examples of $d: do not compile"
+	fi
 done
 
 # The words of every board a test or the demo boots; K12M3 is the default.
