@@ -1,6 +1,6 @@
 #!/bin/sh
 # board: K12M3
-# timeout: 240
+# timeout: 300
 # Other users of the MDIO bus during 30 applies: MII ioctls on eth0 (what
 # mii-tool and phytool send) and the board's own mdio control read the
 # chip's page control (8, 31) in loops.  Between two register sequences its
