@@ -103,10 +103,11 @@ wait_until() {
 }
 
 # gone PID: the process has ended (a zombie not yet reaped counts as ended).
+# A stat file that cannot be read is a process already reaped: the answer,
+# so cat's message is kept in st, not shown.
 gone() {
 	local st
-	[ -e "/proc/$1" ] || return 0
-	read -r st <"/proc/$1/stat" || return 0
+	st=$(cat "/proc/$1/stat" 2>&1) || return 0
 	case "${st##*) }" in Z*) return 0 ;; esac
 	return 1
 }
