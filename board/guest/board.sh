@@ -112,6 +112,8 @@ gone() {
 	return 1
 }
 
+running() { ! gone "$1"; }
+
 # ended SECONDS PID: the child PID ends within SECONDS; its exit status then,
 # else 1 at once (no waiting on a child that hangs).
 ended() { wait_until "$1" gone "$2" && wait "$2"; }
@@ -128,6 +130,36 @@ fault_layout_set() {
 	local S="dev RTL8304MB"
 	sw $S vlan 2 set vid 100 && sw $S vlan 2 set ports "'0 3t'" &&
 		sw $S vlan 3 set vid 200 && sw $S vlan 3 set ports "'1 3t'"
+}
+
+# fault_apply FAULT: load the board, set that layout, arm FAULT (a command
+# for $BOARD_DBG/fault) and start an apply in the background: its pid in
+# FAULT_APPLY, its start (date +%s) in FAULT_START, its answer in
+# /tmp/apply.out.  The kernel log is marked just before.
+fault_apply() {
+	board_load
+	fault_layout_set
+	klog_mark
+	echo "$1" >$BOARD_DBG/fault
+	FAULT_START=$(date +%s)
+	sw dev RTL8304MB set apply >/tmp/apply.out &
+	FAULT_APPLY=$!
+}
+
+# fault_others_go_on: while an apply holds the chip, a console writer waiting
+# for it dies within 1 s of SIGKILL, the status polls run on for 3 s, and
+# "ip link set eth0 down" returns within 2 s.
+fault_others_go_on() {
+	local writer
+	echo "get pvid 3" >/proc/rtl8304 &
+	writer=$!
+	sleep 1
+	check "console writer waits for the chip" running $writer
+	kill -9 $writer
+	check "killed console writer gone within 1 s" wait_until 1 gone $writer
+	sleep 3
+	ip link set eth0 down &
+	check "ip link set eth0 down returns within 2 s" ended 2 $!
 }
 
 # The chip's VLAN block ($BOARD_DBG/vlan) after an apply of that layout:

@@ -8,46 +8,25 @@
 # or hung task.  Once the chip recovers the apply finishes with exactly the
 # layout asked for and the LEDs follow the copper ports again.
 . /lib/board.sh
-S="dev RTL8304MB"
 STUCK=50
 leds() { [ "$(gpio_level $GPIO_LED1) $(gpio_level $GPIO_LED2)" = "$1" ]; }
-running() { ! gone "$1"; }
-
-board_load
-fault_layout_set
-klog_mark
 
 # Clearing chip port 0's counters: bit 0 of (4, 17, 15), self-clearing.
-echo "busy sw 4 15 17 0x0001 forever" >$BOARD_DBG/fault
-start=$(date +%s)
-sw $S set apply >/tmp/apply.out &
-apply=$!
+fault_apply "busy sw 4 15 17 0x0001 forever"
 sleep 2
-check "apply waits for the counter clear" running $apply
+check "apply waits for the counter clear" running $FAULT_APPLY
 check "clear bit still set" eq 0x0001 "$(board_reg sw 4 15 17)"
 check "VLAN table not yet touched" grep -qx "entry  0 vid    0 fid 0 member 0x000 untag 0x000" \
 	$BOARD_DBG/vlan
+fault_others_go_on
 
-echo "get pvid 3" >/proc/rtl8304 &
-writer=$!
-sleep 1
-check "console writer waits for the chip" running $writer
-kill -9 $writer
-check "killed console writer gone within 1 s" wait_until 1 gone $writer
-
-# Status polls go on beside the stuck apply, then the MAC stops them.
-sleep 3
-ip link set eth0 down &
-down=$!
-check "ip link set eth0 down returns within 2 s" ended 2 $down
-
-left=$((STUCK - ($(date +%s) - start)))
+left=$((STUCK - ($(date +%s) - FAULT_START)))
 [ $left -gt 0 ] && sleep $left
-check "apply still waiting after $STUCK s" running $apply
+check "apply still waiting after $STUCK s" running $FAULT_APPLY
 check "no soft lockup, RCU stall or hung task report" eq "" "$(stall_reports)"
 
 echo "busy off" >$BOARD_DBG/fault
-check "apply finishes once the chip recovers" ended 5 $apply
+check "apply finishes once the chip recovers" ended 5 $FAULT_APPLY
 check "apply answers nothing" eq "" "$(cat /tmp/apply.out)"
 check "chip holds exactly the applied layout" eq "$(fault_layout_dump)" "$(cat $BOARD_DBG/vlan)"
 check "killed console command never ran" eq "" "$(klog_new | grep '===port')"

@@ -10,36 +10,19 @@
 # for and nothing more is logged.
 . /lib/board.sh
 S="dev RTL8304MB"
-FAULT=8
-running() { ! gone "$1"; }
+FAULT=10
 klog() { klog_new | sed 's/^\[[^]]*\] //'; }
 
-board_load
-fault_layout_set
-klog_mark
-
-echo "read -5 forever" >$BOARD_DBG/fault
-start=$(date +%s)
-sw $S set apply >/tmp/apply.out &
-apply=$!
+fault_apply "read -5 forever"
 sleep 1
-check "apply waits while reads fail" running $apply
+check "apply waits while reads fail" running $FAULT_APPLY
+fault_others_go_on
 
-echo "get pvid 3" >/proc/rtl8304 &
-writer=$!
-sleep 1
-check "console writer waits for the chip" running $writer
-kill -9 $writer
-check "killed console writer gone within 1 s" wait_until 1 gone $writer
-
-ip link set eth0 down &
-check "ip link set eth0 down returns within 2 s" ended 2 $!
-
-left=$((FAULT - ($(date +%s) - start)))
+left=$((FAULT - ($(date +%s) - FAULT_START)))
 [ $left -gt 0 ] && sleep $left
 echo "read off" >$BOARD_DBG/fault
-elapsed=$(($(date +%s) - start))
-check "apply finishes once reads succeed" ended 5 $apply
+elapsed=$(($(date +%s) - FAULT_START))
+check "apply finishes once reads succeed" ended 5 $FAULT_APPLY
 
 log=$(klog)
 failed=$(echo "$log" | grep 'MDIO read failed')
