@@ -31,11 +31,11 @@ echo "       $n failed reads logged in $elapsed s"
 check "every line names address, register and error" eq "" \
 	"$(echo "$failed" | grep -vxE 'rtl8304: MDIO read failed: address [0-8] register ([0-9]|[12][0-9]|3[01]): -5')"
 # Every switch register read starts by reading the page control (8, 31);
-# the wait reads the clear bit (4, 17).  Both are among the first ten.
+# the wait reads the clear bit (4, 17) again and again.
 check "page control read logged" eq 1 \
-	"$(echo "$failed" | head -10 | grep -cxm1 'rtl8304: MDIO read failed: address 8 register 31: -5')"
+	"$(echo "$failed" | grep -cxm1 'rtl8304: MDIO read failed: address 8 register 31: -5')"
 check "counter clear poll logged" eq 1 \
-	"$(echo "$failed" | head -10 | grep -cxm1 'rtl8304: MDIO read failed: address 4 register 17: -5')"
+	"$(echo "$failed" | grep -cxm1 'rtl8304: MDIO read failed: address 4 register 17: -5')"
 check "a full first burst of 10" test "$n" -ge 10
 check "at most 10 per 5 s" test "$n" -le $((10 * (elapsed / 5 + 2)))
 check "suppressed reads counted" eq 1 "$(echo "$log" | grep -cm1 'callbacks suppressed$')"
