@@ -102,6 +102,90 @@ wait_until() {
 	return 1
 }
 
+# gone PID: the process has ended (a zombie not yet reaped counts as ended).
+# A stat file that cannot be read is a process already reaped: the answer,
+# so cat's message is kept in st, not shown.
+gone() {
+	local st
+	st=$(cat "/proc/$1/stat" 2>&1) || return 0
+	case "${st##*) }" in Z*) return 0 ;; esac
+	return 1
+}
+
+running() { ! gone "$1"; }
+
+# ended SECONDS PID: the child PID ends within SECONDS; its exit status then,
+# else 1 at once (no waiting on a child that hangs).
+ended() { wait_until "$1" gone "$2" && wait "$2"; }
+
+# Soft lockup, RCU stall and hung task reports in the kernel log.
+stall_reports() {
+	dmesg | grep -E 'soft lockup|rcu.*(stall|detected stalls)|blocked for more than'
+}
+
+# The layout of the fault tests, set in the soft configuration only: VID 100
+# untagged on port 0, VID 200 untagged on port 1, the CPU port (3) tagged in
+# both.
+fault_layout_set() {
+	local S="dev RTL8304MB"
+	sw $S vlan 2 set vid 100 && sw $S vlan 2 set ports "'0 3t'" &&
+		sw $S vlan 3 set vid 200 && sw $S vlan 3 set ports "'1 3t'"
+}
+
+# fault_apply FAULT: load the board, set that layout, arm FAULT (a command
+# for $BOARD_DBG/fault) and start an apply in the background: its pid in
+# FAULT_APPLY, its start (date +%s) in FAULT_START, its answer in
+# /tmp/apply.out.  The kernel log is marked just before.
+fault_apply() {
+	board_load
+	fault_layout_set
+	klog_mark
+	echo "$1" >$BOARD_DBG/fault
+	FAULT_START=$(date +%s)
+	sw dev RTL8304MB set apply >/tmp/apply.out &
+	FAULT_APPLY=$!
+}
+
+# fault_others_go_on: while an apply holds the chip, a console writer waiting
+# for it dies within 1 s of SIGKILL, the status polls run on for 3 s, and
+# "ip link set eth0 down" returns within 2 s.
+fault_others_go_on() {
+	local writer
+	echo "get pvid 3" >/proc/rtl8304 &
+	writer=$!
+	sleep 1
+	check "console writer waits for the chip" running $writer
+	kill -9 $writer
+	check "killed console writer gone within 1 s" wait_until 1 gone $writer
+	sleep 3
+	ip link set eth0 down &
+	check "ip link set eth0 down returns within 2 s" ended 2 $!
+}
+
+# The chip's VLAN block ($BOARD_DBG/vlan) after an apply of that layout:
+# the default VLAN 1 with every port (entry 0), then the two VLANs in the
+# lowest free entries with FID 1 and the CPU port (chip port 8, mask 0x100)
+# tagged; ingress filter on; PVIDs of chip ports 0 and 3 from their untagged
+# VLAN, the others left on entry 0; tag mode 2 on the four board ports.
+fault_layout_dump() {
+	local i
+	echo "control 0x0001 enable 1 ingress_filter 1"
+	echo "entry  0 vid    1 fid 0 member 0x1ff untag 0x000"
+	echo "entry  1 vid  100 fid 1 member 0x101 untag 0x001"
+	echo "entry  2 vid  200 fid 1 member 0x108 untag 0x008"
+	for i in 3 4 5 6 7 8 9 10 11 12 13 14 15; do
+		printf 'entry %2d vid    0 fid 0 member 0x000 untag 0x000\n' $i
+	done
+	for i in 0 1 2 3 4 5 6 7 8; do
+		case $i in
+		0) echo "port 0 pvid_index  1 pvid  100 accept 3 tag_aware 1 tag_mode 2" ;;
+		3) echo "port 3 pvid_index  2 pvid  200 accept 3 tag_aware 1 tag_mode 2" ;;
+		4|8) echo "port $i pvid_index  0 pvid    1 accept 3 tag_aware 1 tag_mode 2" ;;
+		*) echo "port $i pvid_index  0 pvid    1 accept 3 tag_aware 1 tag_mode 0" ;;
+		esac
+	done
+}
+
 # check DESCRIPTION COMMAND...: one test case; prints ok/FAIL and counts.
 check() {
 	local what=$1

@@ -10,7 +10,8 @@
  * driver) is attached the same way.
  *
  * eth0 comes up at load; like the FEC, bringing it down stops the PHY state
- * machine (a quiet bus) and bringing it up starts it again.
+ * machine (a quiet bus) and bringing it up starts it again, and it passes
+ * the MII ioctls (SIOCGMIIPHY, SIOCGMIIREG, SIOCSMIIREG) to the PHY layer.
  *
  * Controls in /sys/kernel/debug/rtl8304-board/:
  *   link   write "PHY up|down" (PHY 0..7); read: one "phy N up|down" line each
@@ -26,7 +27,8 @@
  *   log    read: the most recent bus transactions, oldest first
  *   stats  read: transaction counts; write "clear" to clear them and the
  *          transaction log
- *   fault  write "busy SPACE ADDR PAGE REG MASK READS|forever", "busy off",
+ *   fault  write "busy SPACE ADDR PAGE REG MASK READS|forever", "busy off"
+ *          (commands in flight then finish at their next poll),
  *          "read ERRNO COUNT|forever", "read off"; read: what is armed
  *   mib    write "PORT ID VALUE" (32-bit counter) or "bytes PORT ID VALUE"
  */
@@ -142,10 +144,25 @@ static netdev_tx_t board_ndo_xmit(struct sk_buff *skb, struct net_device *ndev)
 	return NETDEV_TX_OK;
 }
 
+/*
+ * MII ioctls go to the attached PHY as the FEC sends them (fec_enet_ioctl):
+ * refused while the interface is down, and the request's phy_id picks the
+ * MDIO address, so mii-tool and phytool reach any address of the bus.
+ */
+static int board_ndo_eth_ioctl(struct net_device *ndev, struct ifreq *rq, int cmd)
+{
+	if (!netif_running(ndev))
+		return -EINVAL;
+	if (!ndev->phydev)
+		return -ENODEV;
+	return phy_mii_ioctl(ndev->phydev, rq, cmd);
+}
+
 static const struct net_device_ops board_netdev_ops = {
 	.ndo_open = board_ndo_open,
 	.ndo_stop = board_ndo_stop,
 	.ndo_start_xmit = board_ndo_xmit,
+	.ndo_eth_ioctl = board_ndo_eth_ioctl,
 };
 
 static void board_adjust_link(struct net_device *ndev)
@@ -464,6 +481,20 @@ static int fault_show(struct seq_file *m, void *v)
 	return 0;
 }
 
+/*
+ * The chip recovers: every command still in flight, the one a busy fault
+ * holds forever included, finishes at the next read of its register.
+ * Disarming the fault alone would leave that one stuck for good.
+ */
+static void board_busy_release(struct rtl8309n_sim *s)
+{
+	int i;
+
+	for (i = 0; i < SIM_MAX_BUSY; i++)
+		if (s->busy[i].active)
+			s->busy[i].reads_left = 0;
+}
+
 static int fault_cmd(struct board *b, char **w, int n)
 {
 	u32 addr, page, reg, count;
@@ -475,6 +506,7 @@ static int fault_cmd(struct board *b, char **w, int n)
 	mutex_lock(&b->lock);
 	if (n == 2 && !strcmp(w[0], "busy") && !strcmp(w[1], "off")) {
 		rtl8309n_sim_fault_busy(b->sim, SIM_SPACE_SWITCH, 0, 0, 0, 0, 0);
+		board_busy_release(b->sim);
 	} else if (n == 7 && !strcmp(w[0], "busy") && !parse_space(w[1], &space) &&
 		   !kstrtou32(w[2], 0, &addr) && !kstrtou32(w[3], 0, &page) &&
 		   !kstrtou32(w[4], 0, &reg) && !kstrtou16(w[5], 0, &mask) &&
