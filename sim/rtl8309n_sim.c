@@ -250,6 +250,11 @@ void rtl8309n_sim_mib_set_bytes(struct rtl8309n_sim *s, u32 port, u32 id, u64 va
 void rtl8309n_sim_fault_busy(struct rtl8309n_sim *s, enum sim_space space, u32 addr,
 			     u32 page, u32 reg, u16 mask, u32 reads)
 {
+	u32 i;
+
+	if (!mask)
+		for (i = 0; i < SIM_MAX_BUSY; i++)
+			s->busy[i].reads_left = 0;
 	s->busy_fault.armed = mask != 0;
 	s->busy_fault.loc.space = (u8)space;
 	s->busy_fault.loc.addr = (u8)addr;

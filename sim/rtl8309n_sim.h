@@ -130,7 +130,9 @@ void rtl8309n_sim_mib_set_bytes(struct rtl8309n_sim *s, u32 port, u32 id, u64 va
 
 /*
  * Make the self-clearing bits @mask of a register read as set for @reads
- * reads after each start (SIM_FOREVER: stuck).  Disarm with mask 0.
+ * reads after each start (SIM_FOREVER: stuck).  Disarm with mask 0: the
+ * chip recovers, and every command still in flight (one held forever
+ * included) finishes at the next read of its register.
  */
 void rtl8309n_sim_fault_busy(struct rtl8309n_sim *s, enum sim_space space, u32 addr,
 			     u32 page, u32 reg, u16 mask, u32 reads);

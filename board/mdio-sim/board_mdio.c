@@ -481,20 +481,6 @@ static int fault_show(struct seq_file *m, void *v)
 	return 0;
 }
 
-/*
- * The chip recovers: every command still in flight, the one a busy fault
- * holds forever included, finishes at the next read of its register.
- * Disarming the fault alone would leave that one stuck for good.
- */
-static void board_busy_release(struct rtl8309n_sim *s)
-{
-	int i;
-
-	for (i = 0; i < SIM_MAX_BUSY; i++)
-		if (s->busy[i].active)
-			s->busy[i].reads_left = 0;
-}
-
 static int fault_cmd(struct board *b, char **w, int n)
 {
 	u32 addr, page, reg, count;
@@ -506,8 +492,7 @@ static int fault_cmd(struct board *b, char **w, int n)
 	mutex_lock(&b->lock);
 	if (n == 2 && !strcmp(w[0], "busy") && !strcmp(w[1], "off")) {
 		rtl8309n_sim_fault_busy(b->sim, SIM_SPACE_SWITCH, 0, 0, 0, 0, 0);
-		board_busy_release(b->sim);
-	} else if (n == 7 && !strcmp(w[0], "busy") && !parse_space(w[1], &space) &&
+			} else if (n == 7 && !strcmp(w[0], "busy") && !parse_space(w[1], &space) &&
 		   !kstrtou32(w[2], 0, &addr) && !kstrtou32(w[3], 0, &page) &&
 		   !kstrtou32(w[4], 0, &reg) && !kstrtou16(w[5], 0, &mask) &&
 		   !parse_count(w[6], &count)) {

@@ -96,6 +96,31 @@ TEST_F(MibTest, ResetWaitsWithoutBound)
 	EXPECT_EQ(Pair(0, 43), Pair(sim().mib[0][5], sim().mib[1][5]));
 }
 
+// A chip stuck for good that recovers in mid-wait: the command in flight
+// finishes at its next poll, and the wait ends there.
+namespace {
+rtl8309n_sim *g_stuck;
+int g_polls;
+
+int lift_fault_at_poll_300(u32 phyad, u32 regad, u32 *value)
+{
+	*value = static_cast<u32>(rtl8309n_sim_mdio_read(g_stuck, phyad, regad));
+	if (phyad == 4 && regad == 17 && ++g_polls == 300)
+		rtl8309n_sim_fault_busy(g_stuck, SIM_SPACE_SWITCH, 0, 0, 0, 0, 0);
+	return 0;
+}
+}  // namespace
+
+TEST_F(MibTest, StuckResetEndsWhenTheChipRecovers)
+{
+	g_stuck = &sim();
+	g_polls = 0;
+	rtl8309n_sim_fault_busy(&sim(), SIM_SPACE_SWITCH, 4, 15, 17, 0x0001, SIM_FOREVER);
+	register_smiRead(lift_fault_at_poll_300);
+	ASSERT_EQ(RT_ERR_OK, rtl8309n_mib_reset(0));
+	EXPECT_EQ(301, g_polls) << "the bit update's read, 299 stuck polls, the recovered one";
+}
+
 class ApiStatTest : public ChipTest {};
 
 TEST_F(ApiStatTest, ChecksInOrderBeforeAnyChipAccess)
