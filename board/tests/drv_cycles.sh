@@ -1,14 +1,16 @@
 #!/bin/sh
 # board: K12M3
 # timeout: 240
-# Twenty load/unload cycles of driver and board: the same messages each
-# time, /proc/rtl8304 gone after each unload, nothing leaked.
+# Eight load/unload cycles of driver and board: the same messages each
+# time, /proc/rtl8304 gone after each unload, nothing leaked (kmemleak sees
+# a leak of one cycle as well as of twenty; each cycle costs a reset pulse
+# and two module loads on a KASAN kernel).
 . /lib/board.sh
 klog() { klog_new | sed 's/^\[[^]]*\] //' | grep -v -e 'Link is' -e 'taints kernel'; }
 
 first=
 n=0
-while [ $n -lt 20 ]; do
+while [ $n -lt 8 ]; do
 	n=$((n + 1))
 	klog_mark
 	board_load
