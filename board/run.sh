@@ -9,8 +9,9 @@
 # "# board: WORDS" in the script, else the default K12M3 board; see
 # build_dtb in board/build.sh for the words.  A line "# timeout: S" sets the
 # script's time limit (default 120 s).  A script fails also when the kernel
-# log shows a bug, warning, oops, lockdep or hung-task report, unless it has
-# a line "# kernel-warnings: allowed".
+# log shows a problem (a bug, KASAN or lockdep report, warning, oops, soft
+# lockup, RCU stall, hung task, kmemleak find: board/guest/bin/klog-problems
+# has the list), unless it has a line "# kernel-warnings: allowed".
 #
 # BOARD_KIND chooses the board (default arm64-6.1; board/build.sh kinds).
 # In the guest: modules in /modules (rtl8304.ko when the driver has been
@@ -89,9 +90,12 @@ fi
 (cd "$run/root" && find . | cpio -o -H newc --owner=0:0 --quiet) | gzip -n >"$run/run.cpio.gz"
 cat "$OUT/rootfs.cpio.gz" "$run/run.cpio.gz" >"$run/initrd.gz"
 
+# log_buf_len: room for the log of a fuzz batch (thousands of lines, see
+# klog_drain in board/guest/board.sh) between two reads, so that no report
+# is overwritten before anything reads it; the default holds 128 KiB.
 qemu=("$KIND_QEMU" -M virt -cpu "$KIND_CPU" -smp 2 -m 512 -nographic -no-reboot
       -nic none -kernel "$OUT/linux/$KIND_IMAGE" -initrd "$run/initrd.gz"
-      -dtb "$dtb" -append "console=ttyAMA0 rdinit=/init loglevel=1 panic=-1 slub_debug=FZP")
+      -dtb "$dtb" -append "console=ttyAMA0 rdinit=/init loglevel=1 panic=-1 slub_debug=FZP log_buf_len=4M")
 
 echo "board: booting $KIND [${board:-K12M3}]${script:+ with $script}"
 if [ $shell = 1 ]; then
@@ -118,7 +122,10 @@ echo "==== kernel log ===="
 section LOG-BEGIN LOG-END | tee "$run/klog"
 echo "===================="
 
-problems=$(grep -E '(^|\] )BUG[: ]|WARNING:|Oops|Unable to handle kernel|Internal error:|INFO: task .* blocked|possible (recursive|circular) locking|inconsistent lock state|suspicious RCU usage|DEBUG_LOCKS_WARN_ON|kmemleak:.*new suspected' "$run/klog" || true)
+# One list of kernel problems for this runner and the guest's own scans.
+problems=$("$REPO/board/guest/bin/klog-problems" "$run/klog") || {
+	[ $? = 1 ] || { echo "board: cannot scan the kernel log"; exit 1; }
+}
 if [ -n "$problems" ] && [ "$(header kernel-warnings)" != allowed ]; then
 	echo "$problems"
 	echo "board: the kernel log shows a problem (above)"

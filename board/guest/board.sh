@@ -90,6 +90,22 @@ klog_mark() { BOARD_KLOG_MARK=$(dmesg | wc -l); }
 klog_new() { dmesg | tail -n +$((${BOARD_KLOG_MARK:-0} + 1)); }
 klog_has() { dmesg | grep -qF -- "$1"; }
 
+# klog_drain: read and clear the kernel log; fail, showing each problem
+# report (/bin/klog-problems, the list board/run.sh uses) with the lines
+# before it, if there is one.  For scripts that log more than the ring buffer
+# holds: drain after each batch and no report is overwritten unread.  The
+# log starts afresh, so take a new klog_mark after it.
+klog_drain() {
+	local rc=0
+	dmesg -c >/tmp/klog.drain || return 1
+	klog-problems -B 8 /tmp/klog.drain || rc=$?
+	case $rc in
+	0) echo "board: the kernel log shows a problem (above)"; return 1 ;;
+	1) return 0 ;;
+	*) echo "board: cannot scan the kernel log"; return 1 ;;
+	esac
+}
+
 # wait_until SECONDS COMMAND...: poll a condition every 0.2 s.
 wait_until() {
 	local n=$(($1 * 5))
