@@ -16,7 +16,8 @@
 # BOARD_KIND chooses the board (default arm64-6.1; board/build.sh kinds).
 # In the guest: modules in /modules (rtl8304.ko when the driver has been
 # built), helpers in /lib/board.sh, the script at /board/script.sh and the
-# board words it runs on in /board/variant.
+# board words it runs on in /board/variant; FUZZ_SEED (a number) goes to
+# /board/seed for the fuzz tests (board_seed).
 set -euo pipefail
 
 REPO=$(cd "$(dirname "$0")/.." && pwd)
@@ -79,6 +80,11 @@ if [ -n "$ko" ]; then
 	cp "$ko" "$run/root/modules/rtl8304.ko"
 	echo "board: driver ${ko#"$REPO"/}"
 fi
+case "${FUZZ_SEED:-}" in
+"") ;;
+*[!0-9]*) echo "board: FUZZ_SEED '$FUZZ_SEED' is not a number" >&2; exit 2 ;;
+*) echo "$FUZZ_SEED" >"$run/root/board/seed" ;;
+esac
 if [ $shell = 1 ]; then
 	touch "$run/root/board/shell"
 else

@@ -106,6 +106,16 @@ klog_drain() {
 	esac
 }
 
+# board_seed: the seed of a fuzz test: FUZZ_SEED given to board/run.sh (a
+# replay), else a fresh one (0 .. 2^31-1).
+board_seed() {
+	if [ -s /board/seed ]; then
+		cat /board/seed
+	else
+		echo $(($(od -An -N4 -tu4 /dev/urandom) & 0x7fffffff))
+	fi
+}
+
 # wait_until SECONDS COMMAND...: poll a condition every 0.2 s.
 wait_until() {
 	local n=$(($1 * 5))
@@ -149,6 +159,38 @@ board_leak_check() {
 	[ -z "$(cat $f)" ] && return 0
 	cat $f
 	return 1
+}
+
+# fuzz_end_checks: the end of a fuzz test.  A known layout applied through
+# swconfig leaves exactly that VLAN block (VID 100: framework ports 0 and 3
+# tagged; VID 200: 1, 2 and 3 tagged), the console reads it back, the kernel
+# log is clean, the driver unloads and nothing leaked.
+fuzz_end_checks() {
+	local c
+	for c in "set reset" "vlan 2 set vid 100" "vlan 2 set ports '0 3t'" \
+		 "vlan 3 set vid 200" "vlan 3 set ports '1 2 3t'" "set apply"; do
+		eval sw dev RTL8304MB "$c" >/tmp/fuzz_end.sw || cat /tmp/fuzz_end.sw
+	done
+	check "known layout applied exactly" eq "$(printf '%s\n' \
+		'entry  0 vid    1 fid 0 member 0x1ff untag 0x000' \
+		'entry  1 vid  100 fid 1 member 0x101 untag 0x001' \
+		'entry  2 vid  200 fid 1 member 0x118 untag 0x018' \
+		'port 0 pvid_index  1 pvid  100 accept 3 tag_aware 1 tag_mode 2' \
+		'port 3 pvid_index  2 pvid  200 accept 3 tag_aware 1 tag_mode 2' \
+		'port 4 pvid_index  2 pvid  200 accept 3 tag_aware 1 tag_mode 2' \
+		'port 8 pvid_index  0 pvid    1 accept 3 tag_aware 1 tag_mode 2')" \
+		"$(grep -E '^entry +[0-9]+ vid +[1-9]|^port [0348] ' $BOARD_DBG/vlan)"
+	check "no other VLAN" eq 13 "$(grep -c 'vid    0 fid 0 member 0x000 untag 0x000' $BOARD_DBG/vlan)"
+	klog_mark
+	for c in "get cpu port" "get vlanid info 100" "get pvid 3"; do
+		echo "$c" >/proc/rtl8304
+	done
+	check "console reads it back" eq "$(printf '%s\n' 'The cpu port:8, tag enable' \
+		'===vid = 100, mbrmsk = 101, untagmsk = 1' '===port = 3, pvid = 0xc8, priority = 0')" \
+		"$(klog_new | sed 's/^\[[^]]*\] //')"
+	check "kernel log clean" klog_drain
+	check "driver unloads" board_unload
+	check "no leaks" board_leak_check
 }
 
 finish() {
