@@ -47,6 +47,33 @@ if [ $shell = 0 ] && [ ! -f "$script" ]; then
 	exit 2
 fi
 
+# The driver: $RTL8304_KO (none: without it), else the newest build of it
+# for this kind's machine (ELF e_machine): the module build's output for the
+# kind, or a Kbuild run at the repository root.  A module given by name must
+# exist and be built for this machine: never another one in its place.
+is_elf() { [ -f "$1" ] && [ "$(od -An -c -N4 "$1" | tr -d ' ')" = '177ELF' ]; }
+elf_machine() { od -An -tu2 -j18 -N2 "$1" | tr -d ' '; }
+is_kind_ko() { is_elf "$1" && [ "$(elf_machine "$1")" = "$KIND_ELF_MACHINE" ]; }
+ko=${RTL8304_KO:-}
+case "$ko" in
+""|none) ;;
+*)
+	if [ ! -f "$ko" ]; then
+		echo "board: RTL8304_KO=$ko: no such file" >&2
+		exit 2
+	elif ! is_elf "$ko"; then
+		echo "board: RTL8304_KO=$ko is not an ELF file" >&2
+		exit 2
+	elif ! is_kind_ko "$ko"; then
+		echo "board: RTL8304_KO=$ko is built for ELF machine $(elf_machine "$ko"), $KIND needs $KIND_ELF_MACHINE" >&2
+		exit 2
+	fi
+	;;
+esac
+case "${FUZZ_SEED:-0}" in
+*[!0-9]*) echo "board: FUZZ_SEED=$FUZZ_SEED is not a number" >&2; exit 2 ;;
+esac
+
 header() { [ -z "$script" ] || sed -n "s/^# $1: *//p" "$script" | head -1; }
 [ -n "$board" ] || board=$(header board)
 [ -n "$limit" ] || limit=$(header timeout)
@@ -64,11 +91,6 @@ trap 'rm -rf "$run"' EXIT
 mkdir -p "$run/root/board" "$run/root/modules"
 # Under the module build's lock, so that no half-written module is taken.
 flock -s "$OUT/.modules.lock" cp "$OUT"/kmod/*.ko "$run/root/modules/"
-# The driver: $RTL8304_KO (none: without it), else the newest build of it
-# for this kind's machine (ELF e_machine): the module build's output for the
-# kind, or a Kbuild run at the repository root.
-is_kind_ko() { [ -f "$1" ] && [ "$(od -An -tu2 -j18 -N2 "$1" | tr -d ' ')" = "$KIND_ELF_MACHINE" ]; }
-ko=${RTL8304_KO:-}
 if [ "$ko" = none ]; then
 	ko=
 elif [ -z "$ko" ]; then
@@ -80,11 +102,7 @@ if [ -n "$ko" ]; then
 	cp "$ko" "$run/root/modules/rtl8304.ko"
 	echo "board: driver ${ko#"$REPO"/}"
 fi
-case "${FUZZ_SEED:-}" in
-"") ;;
-*[!0-9]*) echo "board: FUZZ_SEED '$FUZZ_SEED' is not a number" >&2; exit 2 ;;
-*) echo "$FUZZ_SEED" >"$run/root/board/seed" ;;
-esac
+[ -z "${FUZZ_SEED:-}" ] || echo "$FUZZ_SEED" >"$run/root/board/seed"
 if [ $shell = 1 ]; then
 	touch "$run/root/board/shell"
 else
