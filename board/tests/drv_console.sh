@@ -24,7 +24,7 @@ check "reading gives nothing" eq "" "$(cat /proc/rtl8304)"
 check "reading logs the usage" eq "$(printf '%s\n' 'switch: RTL8304N' 'Usage: ' 'bridge mode' \
 	'get phy status' 'get phy reg <addr>' 'set phy reg <port> <addr> <val>' 'switch reset' \
 	'show all vlan' 'get vlanid info <vlanid>' \
-	'set vlanid info <vlanid> <portmask> <untagmsk>' 'get pvid <port>' \
+	'set vlanid info <vlanid> <portmask> <untagmask>' 'get pvid <port>' \
 	'set pvid <port> <pvid> <priority>' 'get cpu port' 'reset port <num>' '')" "$(klog)"
 
 table <<'EOF'

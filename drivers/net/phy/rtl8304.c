@@ -15,9 +15,22 @@
  * chip (status poll, swconfig handlers, apply/reset, console) because the
  * register layer's page-select-then-access sequences are not atomic.  It
  * also guards S_state's lifetime, the GPIO bookkeeping and procfs_buffer.
+ * A path that talks to the chip also holds the MDIO bus's own lock
+ * (bus->mdio_lock) for all of its chip work and goes out with the bus's
+ * unlocked accessors, one transaction per hook call, so that no other bus
+ * user (the PHY layer, a SIOCGMIIREG ioctl from mii-tool, another driver)
+ * lands between a page select and the access that follows it.
+ *
  * Lock order: phydev->lock or the swconfig device mutex, then rtl8304_lock,
- * then the MDIO bus lock.  Nothing that holds rtl8304_lock calls into
- * swconfig registration or waits for /proc users.
+ * then bus->mdio_lock.  Nothing that holds rtl8304_lock calls into swconfig
+ * registration or waits for /proc users.
+ *
+ * A chip that never clears a busy bit hangs the register layer's wait, and
+ * with it the caller that started the sequence; the rest of the system must
+ * not hang behind it.  So the status poll only tries the lock (the MAC's
+ * link is fixed anyway, and the next poll refreshes the LEDs), user-space
+ * entry points wait killably, and the SMI hooks yield the CPU on every
+ * transaction.
  */
 #include <linux/gpio.h>
 #include <linux/kernel.h>
@@ -150,33 +163,90 @@ static u32 rtl8304_chip_mask(u32 mask)
 
 /* ---- SMI bridge ---- */
 
-/* The register layer calls these with rtl8304_lock held.  Before
- * config_init has stored the bus nothing is sent: writes fail with -ENODEV
- * and reads yield 0, so that no busy-bit poll above can spin on garbage.
- * Addresses are bounded because mdiobus_*() index their statistics by them.
+/* The register layer calls these with rtl8304_lock and the bus lock held
+ * (rtl8304_lock_chip()).  Before config_init has stored the bus nothing is
+ * sent: writes fail with -ENODEV and reads yield 0, so that no busy-bit
+ * poll above can spin on garbage.  Addresses are bounded because the MDIO
+ * core indexes its statistics by them.  The register layer ignores bus
+ * errors, so they are logged here; and because its busy-bit waits have no
+ * bound, every transaction gives the CPU away once, which keeps a stuck
+ * chip from tripping the soft-lockup and RCU-stall detectors on kernels
+ * without preemption.
  */
 static int rtl8304_smiWrite(u32 phyad, u32 regad, u32 value)
 {
+	int err;
+
 	lockdep_assert_held(&rtl8304_lock);
 
 	if (!S_state || !S_state->bus)
 		return -ENODEV;
 	if (phyad >= PHY_MAX_ADDR)
 		return -ENXIO;
-	return mdiobus_write(S_state->bus, phyad, regad, (u16)value);
+	err = __mdiobus_write(S_state->bus, phyad, regad, (u16)value);
+	if (err < 0)
+		pr_warn_ratelimited("rtl8304: MDIO write failed: address %u register %u: %d\n",
+				    phyad, regad, err);
+	cond_resched();
+	return err;
 }
 
 static int rtl8304_smiRead(u32 phyad, u32 regad, u32 *value)
 {
+	int ret;
+
 	lockdep_assert_held(&rtl8304_lock);
 
-	if (!S_state || !S_state->bus)
+	if (!S_state || !S_state->bus) {
 		*value = 0;
-	else if (phyad >= PHY_MAX_ADDR)
+		return 0;
+	}
+	if (phyad >= PHY_MAX_ADDR) {
 		*value = (u32)-ENXIO;
-	else
-		*value = (u32)mdiobus_read(S_state->bus, phyad, regad);
+		return 0;
+	}
+	ret = __mdiobus_read(S_state->bus, phyad, regad);
+	if (ret < 0)
+		pr_warn_ratelimited("rtl8304: MDIO read failed: address %u register %u: %d\n",
+				    phyad, regad, ret);
+	*value = (u32)ret;
+	cond_resched();
 	return 0;
+}
+
+/* The bus lock of a chip sequence; the bus cannot change under rtl8304_lock. */
+static void rtl8304_bus_lock(void)
+{
+	lockdep_assert_held(&rtl8304_lock);
+	if (S_state && S_state->bus)
+		mutex_lock(&S_state->bus->mdio_lock);
+}
+
+static void rtl8304_bus_unlock(void)
+{
+	lockdep_assert_held(&rtl8304_lock);
+	if (S_state && S_state->bus)
+		mutex_unlock(&S_state->bus->mdio_lock);
+}
+
+/* Entry points that talk to the chip.  A killed waiter gets -EINTR and has
+ * touched nothing.
+ */
+static int rtl8304_lock_chip(void)
+{
+	int err;
+
+	err = mutex_lock_killable(&rtl8304_lock);
+	if (err)
+		return err;
+	rtl8304_bus_lock();
+	return 0;
+}
+
+static void rtl8304_unlock_chip(void)
+{
+	rtl8304_bus_unlock();
+	mutex_unlock(&rtl8304_lock);
 }
 
 /* ---- Board GPIOs ---- */
@@ -301,9 +371,28 @@ static void rtl8304_derive_ports(struct rtl8304_state *state, int ports, int vla
 	}
 }
 
-/* 802.1Q VLANs; port-based ones stay out of the chip's table. */
+/* Why the chip (or the API in front of it) refused a VLAN or a PVID. */
+static const char *rtl8304_refusal(rtk_api_ret_t ret)
+{
+	switch (ret) {
+	case RT_ERR_TBL_FULL:
+		return "VLAN table full";
+	case RT_ERR_VLAN_VID:
+		return "VID outside 1..4094";
+	case RT_ERR_VLAN_ENTRY_NOT_FOUND:
+		return "no such VLAN";
+	default:
+		return "chip access failed";
+	}
+}
+
+/* 802.1Q VLANs; port-based ones stay out of the chip's table.  The apply
+ * goes on past a refusal (the table has 16 entries, entry 0 holding VLAN 1),
+ * but says which VLAN did not make it.
+ */
 static void rtl8304_program_vlans(struct rtl8304_state *state, int vlans)
 {
+	rtk_api_ret_t ret;
 	int i;
 
 	for (i = 1; i < vlans; i++) {
@@ -314,20 +403,28 @@ static void rtl8304_program_vlans(struct rtl8304_state *state, int vlans)
 			continue;
 		member = rtl8304_chip_mask(v->ports);
 		tagged = rtl8304_chip_mask(v->tagged);
-		rtk_vlan_set(v->vid, member, member & ~tagged & RTL8309N_PORT_MASK_ALL,
-			     RTL8304_APPLY_FID);
+		ret = rtk_vlan_set(v->vid, member, member & ~tagged & RTL8309N_PORT_MASK_ALL,
+				   RTL8304_APPLY_FID);
+		if (ret != RT_ERR_OK)
+			pr_warn("rtl8304: apply: VLAN %u (slot %d) refused: %s\n",
+				v->vid, i, rtl8304_refusal(ret));
 	}
 }
 
 static void rtl8304_program_pvids(struct rtl8304_state *state, int ports)
 {
+	rtk_api_ret_t ret;
 	int p;
 
 	for (p = 0; p < ports; p++) {
 		u16 pvid = state->port[p].pvid;
 
-		if (pvid >= 1 && pvid <= 4094)
-			rtk_vlan_portPvid_set(rtl8304_port_map[p], pvid, 0);
+		if (pvid < 1 || pvid > 4094)
+			continue;
+		ret = rtk_vlan_portPvid_set(rtl8304_port_map[p], pvid, 0);
+		if (ret != RT_ERR_OK)
+			pr_warn("rtl8304: apply: PVID %u of port %d refused: %s\n",
+				pvid, p, rtl8304_refusal(ret));
 	}
 }
 
@@ -360,13 +457,19 @@ static void rtl8304_apply(struct switch_dev *dev)
 
 static int rtl_hw_apply(struct switch_dev *dev)
 {
-	mutex_lock(&rtl8304_lock);
+	int err;
+
+	err = rtl8304_lock_chip();
+	if (err)
+		return err;
 	rtl8304_apply(dev);
-	mutex_unlock(&rtl8304_lock);
+	rtl8304_unlock_chip();
 	return 0;
 }
 
-/* Called with rtl8304_lock held; flag 1 is the first bring-up. */
+/* Called with rtl8304_lock and the bus lock held; flag 1 is the first
+ * bring-up.
+ */
 static int __rtl_reset(struct switch_dev *dev, u8 flag)
 {
 	struct rtl8304_state *state = to_rtl8304(dev);
@@ -382,9 +485,9 @@ static int __rtl_reset(struct switch_dev *dev, u8 flag)
 	for (i = 0; i < ports; i++) {
 		memset(&state->port[i], 0, sizeof(state->port[i]));
 		if (flag && i <= 2)
-			mdiobus_write(state->bus, rtl8304_port_map[i], MII_BMCR,
-				      RTL8304_BMCR_RESET | RTL8304_BMCR_100M |
-				      RTL8304_BMCR_ANEG | RTL8304_BMCR_FULL);
+			rtl8304_smiWrite(rtl8304_port_map[i], MII_BMCR,
+					 RTL8304_BMCR_RESET | RTL8304_BMCR_100M |
+					 RTL8304_BMCR_ANEG | RTL8304_BMCR_FULL);
 	}
 	if (!flag)
 		rtl8304_apply(dev);
@@ -393,9 +496,13 @@ static int __rtl_reset(struct switch_dev *dev, u8 flag)
 
 static int rtl_reset(struct switch_dev *dev)
 {
-	mutex_lock(&rtl8304_lock);
+	int err;
+
+	err = rtl8304_lock_chip();
+	if (err)
+		return err;
 	__rtl_reset(dev, 0);
-	mutex_unlock(&rtl8304_lock);
+	rtl8304_unlock_chip();
 	return 0;
 }
 
@@ -403,9 +510,10 @@ static int rtl_reset(struct switch_dev *dev)
 
 /* The handlers below change only the soft configuration (apart from the
  * port-link pair); they take rtl8304_lock because the console reads the
- * same record.  swconfig validates port and VLAN indexes against the
- * device before calling, the bounds checks here only keep a stray caller
- * inside the arrays.
+ * same record, killably because a stuck apply or console command may hold
+ * it for as long as the chip is stuck.  swconfig validates port and VLAN
+ * indexes against the device before calling, the bounds checks here only
+ * keep a stray caller inside the arrays.
  */
 
 static bool rtl8304_vlan_bad(struct switch_dev *dev, unsigned int i)
@@ -417,7 +525,8 @@ static int rtl_get_port_pvid(struct switch_dev *dev, int port, int *val)
 {
 	if ((unsigned int)port >= RTL8304_NUM_PORTS)
 		return -EINVAL;
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	*val = to_rtl8304(dev)->port[port].pvid;
 	mutex_unlock(&rtl8304_lock);
 	return 0;
@@ -427,7 +536,8 @@ static int rtl_set_port_pvid(struct switch_dev *dev, int port, int val)
 {
 	if (val > 4095 || (unsigned int)port >= RTL8304_NUM_PORTS)
 		return -EINVAL;
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	to_rtl8304(dev)->port[port].pvid = (u16)val;
 	mutex_unlock(&rtl8304_lock);
 	return 0;
@@ -440,7 +550,8 @@ static int rtl_get_vlan_ports(struct switch_dev *dev, struct switch_val *val)
 
 	if (rtl8304_vlan_bad(dev, val->port_vlan))
 		return -EINVAL;
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	v = &to_rtl8304(dev)->vlan[val->port_vlan];
 	for (p = 0; p < dev->ports && p < RTL8304_NUM_PORTS; p++) {
 		if (!(v->ports & BIT(p)))
@@ -462,7 +573,8 @@ static int rtl_set_vlan_ports(struct switch_dev *dev, struct switch_val *val)
 
 	if (rtl8304_vlan_bad(dev, val->port_vlan))
 		return -EINVAL;
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	v = &to_rtl8304(dev)->vlan[val->port_vlan];
 	v->ports = 0;
 	v->tagged = 0;
@@ -487,7 +599,8 @@ static int rtl_get_vlan_port_based(struct switch_dev *dev, const struct switch_a
 {
 	if (rtl8304_vlan_bad(dev, val->port_vlan))
 		return -EINVAL;
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	val->value.i = to_rtl8304(dev)->vlan[val->port_vlan].port_based ? 1 : 0;
 	mutex_unlock(&rtl8304_lock);
 	return 0;
@@ -498,7 +611,8 @@ static int rtl_set_vlan_port_based(struct switch_dev *dev, const struct switch_a
 {
 	if (rtl8304_vlan_bad(dev, val->port_vlan))
 		return -EINVAL;
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	to_rtl8304(dev)->vlan[val->port_vlan].port_based = val->value.i == 1;
 	mutex_unlock(&rtl8304_lock);
 	return 0;
@@ -509,7 +623,8 @@ static int rtl_get_vid(struct switch_dev *dev, const struct switch_attr *attr,
 {
 	if (rtl8304_vlan_bad(dev, val->port_vlan))
 		return -EINVAL;
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	val->value.i = to_rtl8304(dev)->vlan[val->port_vlan].vid;
 	mutex_unlock(&rtl8304_lock);
 	return 0;
@@ -520,7 +635,8 @@ static int rtl_set_vid(struct switch_dev *dev, const struct switch_attr *attr,
 {
 	if (rtl8304_vlan_bad(dev, val->port_vlan))
 		return -EINVAL;
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	to_rtl8304(dev)->vlan[val->port_vlan].vid = (u16)val->value.i;
 	mutex_unlock(&rtl8304_lock);
 	return 0;
@@ -529,7 +645,8 @@ static int rtl_set_vid(struct switch_dev *dev, const struct switch_attr *attr,
 static int rtl_get_enable_vlan(struct switch_dev *dev, const struct switch_attr *attr,
 			       struct switch_val *val)
 {
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	val->value.i = to_rtl8304(dev)->enable_vlan;
 	mutex_unlock(&rtl8304_lock);
 	return 0;
@@ -538,7 +655,8 @@ static int rtl_get_enable_vlan(struct switch_dev *dev, const struct switch_attr 
 static int rtl_set_enable_vlan(struct switch_dev *dev, const struct switch_attr *attr,
 			       struct switch_val *val)
 {
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	to_rtl8304(dev)->enable_vlan = val->value.i;
 	mutex_unlock(&rtl8304_lock);
 	return 0;
@@ -554,7 +672,8 @@ static int rtl_get_port_mask(struct switch_dev *dev, const struct switch_attr *a
 	unsigned int q;
 	int len;
 
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	len = scnprintf(state->buf, sizeof(state->buf), "0x%04x: ", m);
 	for (q = 0; q < 4; q++) {
 		if (m & BIT(q))
@@ -579,7 +698,8 @@ static int rtl_get_port_link(struct switch_dev *dev, int port, struct switch_por
 		return -EINVAL;
 	c = rtl8304_port_map[port];
 
-	mutex_lock(&rtl8304_lock);
+	if (rtl8304_lock_chip())
+		return -EINTR;
 	rtk_port_phyStatus_get(c, &up, &speed, &duplex);
 	if (c == dev->cpu_port) {
 		link->link = 1;
@@ -609,7 +729,7 @@ static int rtl_get_port_link(struct switch_dev *dev, int port, struct switch_por
 	rtl8309n_reg_get(c, RTL8309N_PORT_NWAY_REG, RTL8309N_PORT_NWAY_PAGE, &nway);
 	link->aneg = !!(nway & RTL8309N_PORT_NWAY_ON);
 out:
-	mutex_unlock(&rtl8304_lock);
+	rtl8304_unlock_chip();
 	return 0;
 }
 
@@ -619,11 +739,10 @@ out:
  */
 static int rtl_set_port_link(struct switch_dev *dev, int port, struct switch_port_link *link)
 {
-	struct rtl8304_state *state = to_rtl8304(dev);
 	int c = (unsigned int)port < RTL8304_NUM_PORTS ? rtl8304_port_map[port] : port;
 	u16 val;
 
-	/* mdiobus_write() indexes its statistics by address: keep it in range. */
+	/* The MDIO core indexes its statistics by address: keep it in range. */
 	if ((unsigned int)c >= PHY_MAX_ADDR)
 		return -EINVAL;
 
@@ -644,9 +763,10 @@ static int rtl_set_port_link(struct switch_dev *dev, int port, struct switch_por
 			return -ENOTSUPP;
 		}
 	}
-	mutex_lock(&rtl8304_lock);
-	mdiobus_write(state->bus, c, MII_BMCR, val);
-	mutex_unlock(&rtl8304_lock);
+	if (rtl8304_lock_chip())
+		return -EINTR;
+	rtl8304_smiWrite(c, MII_BMCR, val);
+	rtl8304_unlock_chip();
 	return 0;
 }
 
@@ -931,31 +1051,34 @@ static void rtl8304_cmd_get_mib(const int *arg)
 }
 
 /* A command without arguments matches as a prefix of its full text; one
- * with arguments when sscanf fills all of them.
+ * with arguments when sscanf fills all of them.  Commands that talk to the
+ * chip hold the bus lock while they run; "switch reset" only drives the
+ * reset line and sleeps, and leaves the bus to others meanwhile.
  */
 struct rtl8304_cmd {
 	const char *text;
 	int nargs;
 	bool nocase;
+	bool chip;
 	void (*run)(const int *arg);
 };
 
 static const struct rtl8304_cmd rtl8304_cmds[] = {
-	{ "show all vlan", 0, true, rtl8304_cmd_show_vlan },
-	{ "bridge mode", 0, true, rtl8304_cmd_bridge_mode },
-	{ "set pvid %d %d %d", 3, false, rtl8304_cmd_set_pvid },
-	{ "get pvid %d", 1, false, rtl8304_cmd_get_pvid },
-	{ "get vlanid info %d", 1, false, rtl8304_cmd_get_vlan },
-	{ "set vlanid info %d %x %x", 3, false, rtl8304_cmd_set_vlan },
-	{ "get phy status", 0, true, rtl8304_cmd_phy_status },
-	{ "get phy reg %d", 1, false, rtl8304_cmd_get_phy_reg },
-	{ "set phy reg %d %d %x", 3, false, rtl8304_cmd_set_phy_reg },
-	{ "get cpu port", 0, false, rtl8304_cmd_get_cpu_port },
-	{ "switch reset", 0, true, rtl8304_cmd_switch_reset },
-	{ "reset port %d", 1, false, rtl8304_cmd_reset_port },
-	{ "set auth mac %d %d %x %x", 4, false, rtl8304_cmd_set_auth },
-	{ "del auth mac %d %d %x %x", 4, false, rtl8304_cmd_del_auth },
-	{ "get mib %d %d", 2, false, rtl8304_cmd_get_mib },
+	{ "show all vlan", 0, true, true, rtl8304_cmd_show_vlan },
+	{ "bridge mode", 0, true, true, rtl8304_cmd_bridge_mode },
+	{ "set pvid %d %d %d", 3, false, true, rtl8304_cmd_set_pvid },
+	{ "get pvid %d", 1, false, true, rtl8304_cmd_get_pvid },
+	{ "get vlanid info %d", 1, false, true, rtl8304_cmd_get_vlan },
+	{ "set vlanid info %d %x %x", 3, false, true, rtl8304_cmd_set_vlan },
+	{ "get phy status", 0, true, true, rtl8304_cmd_phy_status },
+	{ "get phy reg %d", 1, false, true, rtl8304_cmd_get_phy_reg },
+	{ "set phy reg %d %d %x", 3, false, true, rtl8304_cmd_set_phy_reg },
+	{ "get cpu port", 0, false, true, rtl8304_cmd_get_cpu_port },
+	{ "switch reset", 0, true, false, rtl8304_cmd_switch_reset },
+	{ "reset port %d", 1, false, true, rtl8304_cmd_reset_port },
+	{ "set auth mac %d %d %x %x", 4, false, true, rtl8304_cmd_set_auth },
+	{ "del auth mac %d %d %x %x", 4, false, true, rtl8304_cmd_del_auth },
+	{ "get mib %d %d", 2, false, true, rtl8304_cmd_get_mib },
 };
 
 static bool rtl8304_cmd_match(const struct rtl8304_cmd *cmd, const char *buf, int *arg)
@@ -976,7 +1099,7 @@ static ssize_t rtl8304_proc_read(struct file *file, char __user *buf, size_t cou
 		"switch: RTL8304N\n", "Usage: \n", "bridge mode\n", "get phy status\n",
 		"get phy reg <addr>\n", "set phy reg <port> <addr> <val>\n", "switch reset\n",
 		"show all vlan\n", "get vlanid info <vlanid>\n",
-		"set vlanid info <vlanid> <portmask> <untagmsk>\n", "get pvid <port>\n",
+		"set vlanid info <vlanid> <portmask> <untagmask>\n", "get pvid <port>\n",
 		"set pvid <port> <pvid> <priority>\n", "get cpu port\n", "reset port <num>\n",
 		"\n",
 	};
@@ -996,7 +1119,8 @@ static ssize_t rtl8304_proc_write(struct file *file, const char __user *buf, siz
 	ssize_t ret = n;
 	int i;
 
-	mutex_lock(&rtl8304_lock);
+	if (mutex_lock_killable(&rtl8304_lock))
+		return -EINTR;
 	left = copy_from_user(procfs_buffer, buf, n);
 	if (left) {
 		memset(procfs_buffer + n - left, 0, left);
@@ -1006,10 +1130,16 @@ static ssize_t rtl8304_proc_write(struct file *file, const char __user *buf, siz
 	procfs_buffer[n] = '\0';
 
 	for (i = 0; i < ARRAY_SIZE(rtl8304_cmds); i++) {
-		if (rtl8304_cmd_match(&rtl8304_cmds[i], procfs_buffer, arg)) {
-			rtl8304_cmds[i].run(arg);
-			goto out;
-		}
+		const struct rtl8304_cmd *cmd = &rtl8304_cmds[i];
+
+		if (!rtl8304_cmd_match(cmd, procfs_buffer, arg))
+			continue;
+		if (cmd->chip)
+			rtl8304_bus_lock();
+		cmd->run(arg);
+		if (cmd->chip)
+			rtl8304_bus_unlock();
+		goto out;
 	}
 	pr_info("***commamd unknow!\n");
 out:
@@ -1090,7 +1220,12 @@ static int rtl8304_config_init(struct phy_device *phydev)
 	bool do_register;
 	int err;
 
-	mutex_lock(&rtl8304_lock);
+	/* An attach (e.g. the MAC being opened) may come while the chip is
+	 * stuck; let its caller be killed rather than hang for good.
+	 */
+	err = mutex_lock_killable(&rtl8304_lock);
+	if (err)
+		return err;
 	state = S_state;
 	if (!state) {
 		mutex_unlock(&rtl8304_lock);
@@ -1109,8 +1244,9 @@ static int rtl8304_config_init(struct phy_device *phydev)
 		state->registered = true;
 	}
 	state->bus = phydev->mdio.bus;
+	rtl8304_bus_lock();
 	__rtl_reset(dev, 1);
-	mutex_unlock(&rtl8304_lock);
+	rtl8304_unlock_chip();
 
 	if (!do_register)
 		return 0;
@@ -1134,17 +1270,25 @@ static int rtl8304_config_aneg(struct phy_device *phydev)
 	return 0;
 }
 
+/* The PHY state machine never waits behind the chip: while another path
+ * holds it (possibly stuck on a busy bit) this poll leaves the LEDs as they
+ * are and the next one catches up.  phy_stop() and detaching the MAC wait
+ * for a running poll, so they stay prompt too.
+ */
 static int rtl8304_read_status(struct phy_device *phydev)
 {
 	phydev->speed = SPEED_100;
 	phydev->duplex = DUPLEX_FULL;
 	phydev->link = 1;
 
+	if (!mutex_trylock(&rtl8304_lock))
+		return 0;
 	/* Cross-wired on the board: port 0 drives "lan2", port 3 "lan1/wan". */
-	mutex_lock(&rtl8304_lock);
 	if (S_state && S_state->bus) {
+		rtl8304_bus_lock();
 		rtl8304_led_update(led_gpio2, 0);
 		rtl8304_led_update(led_gpio1, 3);
+		rtl8304_bus_unlock();
 	}
 	mutex_unlock(&rtl8304_lock);
 	return 0;
