@@ -161,6 +161,19 @@ board_leak_check() {
 	return 1
 }
 
+# fuzz_batches N FUNCTION: FUNCTION 0 .. FUNCTION N-1, each batch followed by
+# a drain and scan of the kernel log; prints how long the batches took.
+fuzz_batches() {
+	local n=$1 b=0 start
+	start=$(cut -d. -f1 /proc/uptime)
+	while [ "$b" -lt "$n" ]; do
+		"$2" "$b"
+		check "batch $b: kernel log clean" klog_drain
+		b=$((b + 1))
+	done
+	echo "fuzzing took $(($(cut -d. -f1 /proc/uptime) - start)) s"
+}
+
 # fuzz_end_checks: the end of a fuzz test.  A known layout applied through
 # swconfig leaves exactly that VLAN block (VID 100: framework ports 0 and 3
 # tagged; VID 200: 1, 2 and 3 tagged), the console reads it back, the kernel

@@ -19,13 +19,9 @@ echo "seed $SEED"
 board_load
 board_link 0 up
 klog_drain
-start=$(cut -d. -f1 /proc/uptime)
-b=0
-while [ $b -lt $BATCHES ]; do
-	check "batch $b: every write's result" procfuzz /proc/rtl8304 "$SEED" $((b * PER_BATCH)) $PER_BATCH
-	check "batch $b: kernel log clean" klog_drain
-	b=$((b + 1))
-done
-echo "fuzzing took $(($(cut -d. -f1 /proc/uptime) - start)) s"
+batch() {
+	check "batch $1: every write's result" procfuzz /proc/rtl8304 "$SEED" $(($1 * PER_BATCH)) $PER_BATCH
+}
+fuzz_batches $BATCHES batch
 fuzz_end_checks
 finish
