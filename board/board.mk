@@ -24,6 +24,16 @@ $(foreach v,$(BOARD_KIND_ENV),$(eval $(v)))
 
 BOARD_ENV = BOARD_BUILD=$(abspath $(BOARD_BUILD)) BOARD_KIND=$(BOARD_KIND)
 
+# RTL8304_KO (a module file, or "none") is the user's choice of driver for
+# board/run.sh, from the environment or make's command line.  A makefile
+# value would be exported in place of the environment's and run.sh would
+# boot another module without a word, so none may set it.  With it given,
+# the tree's driver is not built for the boot.
+ifneq ($(findstring |$(origin RTL8304_KO)|,|file|override|),)
+$(error RTL8304_KO is set in a makefile ($(origin RTL8304_KO)); only the user sets it)
+endif
+BOARD_BOOT_PREREQ := $(if $(RTL8304_KO),board,board-driver)
+
 # The device-tree bindings and every board tree (board/dt-check.sh); before
 # the board tests, whose count closes make check.
 CHECK_TARGETS += check-dt check-board
@@ -46,16 +56,16 @@ board: board-deps
 
 board-driver: board module
 
-board-run: board-driver
+board-run: $(BOARD_BOOT_PREREQ)
 	@$(BOARD_ENV) BOARD_NO_BUILD=1 board/run.sh $(if $(BOARD),--board "$(BOARD)") $(SCRIPT)
 
-test-board: board-driver
+test-board: $(BOARD_BOOT_PREREQ)
 	@$(BOARD_ENV) board/test.sh $(BOARD_TESTS)
 
-demo: board-driver
+demo: $(BOARD_BOOT_PREREQ)
 	@$(BOARD_ENV) BOARD_NO_BUILD=1 board/run.sh board/demo.sh
 
-shell: board-driver
+shell: $(BOARD_BOOT_PREREQ)
 	@$(BOARD_ENV) BOARD_NO_BUILD=1 board/run.sh $(if $(BOARD),--board "$(BOARD)") --shell
 
 check-dt:

@@ -9,13 +9,15 @@
 # "# board: WORDS" in the script, else the default K12M3 board; see
 # build_dtb in board/build.sh for the words.  A line "# timeout: S" sets the
 # script's time limit (default 120 s).  A script fails also when the kernel
-# log shows a bug, warning, oops, lockdep or hung-task report, unless it has
-# a line "# kernel-warnings: allowed".
+# log shows a problem (a bug, KASAN or lockdep report, warning, oops, soft
+# lockup, RCU stall, hung task, kmemleak find: board/guest/bin/klog-problems
+# has the list), unless it has a line "# kernel-warnings: allowed".
 #
 # BOARD_KIND chooses the board (default arm64-6.1; board/build.sh kinds).
 # In the guest: modules in /modules (rtl8304.ko when the driver has been
 # built), helpers in /lib/board.sh, the script at /board/script.sh and the
-# board words it runs on in /board/variant.
+# board words it runs on in /board/variant; FUZZ_SEED (a number) goes to
+# /board/seed for the fuzz tests (board_seed).
 set -euo pipefail
 
 REPO=$(cd "$(dirname "$0")/.." && pwd)
@@ -45,6 +47,33 @@ if [ $shell = 0 ] && [ ! -f "$script" ]; then
 	exit 2
 fi
 
+# The driver: $RTL8304_KO (none: without it), else the newest build of it
+# for this kind's machine (ELF e_machine): the module build's output for the
+# kind, or a Kbuild run at the repository root.  A module given by name must
+# exist and be built for this machine: never another one in its place.
+is_elf() { [ -f "$1" ] && [ "$(od -An -c -N4 "$1" | tr -d ' ')" = '177ELF' ]; }
+elf_machine() { od -An -tu2 -j18 -N2 "$1" | tr -d ' '; }
+is_kind_ko() { is_elf "$1" && [ "$(elf_machine "$1")" = "$KIND_ELF_MACHINE" ]; }
+ko=${RTL8304_KO:-}
+case "$ko" in
+""|none) ;;
+*)
+	if [ ! -f "$ko" ]; then
+		echo "board: RTL8304_KO=$ko: no such file" >&2
+		exit 2
+	elif ! is_elf "$ko"; then
+		echo "board: RTL8304_KO=$ko is not an ELF file" >&2
+		exit 2
+	elif ! is_kind_ko "$ko"; then
+		echo "board: RTL8304_KO=$ko is built for ELF machine $(elf_machine "$ko"), $KIND needs $KIND_ELF_MACHINE" >&2
+		exit 2
+	fi
+	;;
+esac
+case "${FUZZ_SEED:-0}" in
+*[!0-9]*) echo "board: FUZZ_SEED=$FUZZ_SEED is not a number" >&2; exit 2 ;;
+esac
+
 header() { [ -z "$script" ] || sed -n "s/^# $1: *//p" "$script" | head -1; }
 [ -n "$board" ] || board=$(header board)
 [ -n "$limit" ] || limit=$(header timeout)
@@ -62,11 +91,6 @@ trap 'rm -rf "$run"' EXIT
 mkdir -p "$run/root/board" "$run/root/modules"
 # Under the module build's lock, so that no half-written module is taken.
 flock -s "$OUT/.modules.lock" cp "$OUT"/kmod/*.ko "$run/root/modules/"
-# The driver: $RTL8304_KO (none: without it), else the newest build of it
-# for this kind's machine (ELF e_machine): the module build's output for the
-# kind, or a Kbuild run at the repository root.
-is_kind_ko() { [ -f "$1" ] && [ "$(od -An -tu2 -j18 -N2 "$1" | tr -d ' ')" = "$KIND_ELF_MACHINE" ]; }
-ko=${RTL8304_KO:-}
 if [ "$ko" = none ]; then
 	ko=
 elif [ -z "$ko" ]; then
@@ -78,6 +102,7 @@ if [ -n "$ko" ]; then
 	cp "$ko" "$run/root/modules/rtl8304.ko"
 	echo "board: driver ${ko#"$REPO"/}"
 fi
+[ -z "${FUZZ_SEED:-}" ] || echo "$FUZZ_SEED" >"$run/root/board/seed"
 if [ $shell = 1 ]; then
 	touch "$run/root/board/shell"
 else
@@ -89,9 +114,12 @@ fi
 (cd "$run/root" && find . | cpio -o -H newc --owner=0:0 --quiet) | gzip -n >"$run/run.cpio.gz"
 cat "$OUT/rootfs.cpio.gz" "$run/run.cpio.gz" >"$run/initrd.gz"
 
+# log_buf_len: room for the log of a fuzz batch (thousands of lines, see
+# klog_drain in board/guest/board.sh) between two reads, so that no report
+# is overwritten before anything reads it; the default holds 128 KiB.
 qemu=("$KIND_QEMU" -M virt -cpu "$KIND_CPU" -smp 2 -m 512 -nographic -no-reboot
       -nic none -kernel "$OUT/linux/$KIND_IMAGE" -initrd "$run/initrd.gz"
-      -dtb "$dtb" -append "console=ttyAMA0 rdinit=/init loglevel=1 panic=-1 slub_debug=FZP")
+      -dtb "$dtb" -append "console=ttyAMA0 rdinit=/init loglevel=1 panic=-1 log_buf_len=4M")
 
 echo "board: booting $KIND [${board:-K12M3}]${script:+ with $script}"
 if [ $shell = 1 ]; then
@@ -118,7 +146,10 @@ echo "==== kernel log ===="
 section LOG-BEGIN LOG-END | tee "$run/klog"
 echo "===================="
 
-problems=$(grep -E '(^|\] )BUG[: ]|WARNING:|Oops|Unable to handle kernel|Internal error:|INFO: task .* blocked|possible (recursive|circular) locking|inconsistent lock state|suspicious RCU usage|DEBUG_LOCKS_WARN_ON|kmemleak:.*new suspected' "$run/klog" || true)
+# One list of kernel problems for this runner and the guest's own scans.
+problems=$("$REPO/board/guest/bin/klog-problems" "$run/klog") || {
+	[ $? = 1 ] || { echo "board: cannot scan the kernel log"; exit 1; }
+}
 if [ -n "$problems" ] && [ "$(header kernel-warnings)" != allowed ]; then
 	echo "$problems"
 	echo "board: the kernel log shows a problem (above)"

@@ -90,6 +90,32 @@ klog_mark() { BOARD_KLOG_MARK=$(dmesg | wc -l); }
 klog_new() { dmesg | tail -n +$((${BOARD_KLOG_MARK:-0} + 1)); }
 klog_has() { dmesg | grep -qF -- "$1"; }
 
+# klog_drain: read and clear the kernel log; fail, showing each problem
+# report (/bin/klog-problems, the list board/run.sh uses) with the lines
+# before it, if there is one.  For scripts that log more than the ring buffer
+# holds: drain after each batch and no report is overwritten unread.  The
+# log starts afresh, so take a new klog_mark after it.
+klog_drain() {
+	local rc=0
+	dmesg -c >/tmp/klog.drain || return 1
+	klog-problems -B 8 /tmp/klog.drain || rc=$?
+	case $rc in
+	0) echo "board: the kernel log shows a problem (above)"; return 1 ;;
+	1) return 0 ;;
+	*) echo "board: cannot scan the kernel log"; return 1 ;;
+	esac
+}
+
+# board_seed: the seed of a fuzz test: FUZZ_SEED given to board/run.sh (a
+# replay), else a fresh one (0 .. 2^31-1).
+board_seed() {
+	if [ -s /board/seed ]; then
+		cat /board/seed
+	else
+		echo $(($(od -An -N4 -tu4 /dev/urandom) & 0x7fffffff))
+	fi
+}
+
 # wait_until SECONDS COMMAND...: poll a condition every 0.2 s.
 wait_until() {
 	local n=$(($1 * 5))
@@ -217,6 +243,51 @@ board_leak_check() {
 	[ -z "$(cat $f)" ] && return 0
 	cat $f
 	return 1
+}
+
+# fuzz_batches N FUNCTION: FUNCTION 0 .. FUNCTION N-1, each batch followed by
+# a drain and scan of the kernel log; prints how long the batches took.
+fuzz_batches() {
+	local n=$1 b=0 start
+	start=$(cut -d. -f1 /proc/uptime)
+	while [ "$b" -lt "$n" ]; do
+		"$2" "$b"
+		check "batch $b: kernel log clean" klog_drain
+		b=$((b + 1))
+	done
+	echo "fuzzing took $(($(cut -d. -f1 /proc/uptime) - start)) s"
+}
+
+# fuzz_end_checks: the end of a fuzz test.  A known layout applied through
+# swconfig leaves exactly that VLAN block (VID 100: framework ports 0 and 3
+# tagged; VID 200: 1, 2 and 3 tagged), the console reads it back, the kernel
+# log is clean, the driver unloads and nothing leaked.
+fuzz_end_checks() {
+	local c
+	for c in "set reset" "vlan 2 set vid 100" "vlan 2 set ports '0 3t'" \
+		 "vlan 3 set vid 200" "vlan 3 set ports '1 2 3t'" "set apply"; do
+		eval sw dev RTL8304MB "$c" >/tmp/fuzz_end.sw || cat /tmp/fuzz_end.sw
+	done
+	check "known layout applied exactly" eq "$(printf '%s\n' \
+		'entry  0 vid    1 fid 0 member 0x1ff untag 0x000' \
+		'entry  1 vid  100 fid 1 member 0x101 untag 0x001' \
+		'entry  2 vid  200 fid 1 member 0x118 untag 0x018' \
+		'port 0 pvid_index  1 pvid  100 accept 3 tag_aware 1 tag_mode 2' \
+		'port 3 pvid_index  2 pvid  200 accept 3 tag_aware 1 tag_mode 2' \
+		'port 4 pvid_index  2 pvid  200 accept 3 tag_aware 1 tag_mode 2' \
+		'port 8 pvid_index  0 pvid    1 accept 3 tag_aware 1 tag_mode 2')" \
+		"$(grep -E '^entry +[0-9]+ vid +[1-9]|^port [0348] ' $BOARD_DBG/vlan)"
+	check "no other VLAN" eq 13 "$(grep -c 'vid    0 fid 0 member 0x000 untag 0x000' $BOARD_DBG/vlan)"
+	klog_mark
+	for c in "get cpu port" "get vlanid info 100" "get pvid 3"; do
+		echo "$c" >/proc/rtl8304
+	done
+	check "console reads it back" eq "$(printf '%s\n' 'The cpu port:8, tag enable' \
+		'===vid = 100, mbrmsk = 101, untagmsk = 1' '===port = 3, pvid = 0xc8, priority = 0')" \
+		"$(klog_new | sed 's/^\[[^]]*\] //')"
+	check "kernel log clean" klog_drain
+	check "driver unloads" board_unload
+	check "no leaks" board_leak_check
 }
 
 finish() {
