@@ -107,6 +107,17 @@ static inline void say_num(long v)
 	say(buf);
 }
 
+/* "<prefix><what>: <err>" on stdout; 1, a program's failure status. */
+static inline int say_err(const char *prefix, const char *what, long err)
+{
+	say(prefix);
+	say(what);
+	say(": ");
+	say_num(err);
+	say("\n");
+	return 1;
+}
+
 /* A decimal number; anything else ends it. */
 static inline long parse(const char *s)
 {

@@ -26,12 +26,7 @@ static char in[4096], line[LINE_MAX + 1], answer[ANSWER_MAX];
 
 static long fail(const char *what, long err)
 {
-	say("cmdfeed: ");
-	say(what);
-	say(": ");
-	say_num(err);
-	say("\n");
-	return 1;
+	return say_err("cmdfeed: ", what, err);
 }
 
 /* Write one command, print its answer; nonzero when FD cannot be read. */

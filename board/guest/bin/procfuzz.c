@@ -316,12 +316,8 @@ static int run(int argc, char **argv)
 	first = parse(argv[3]);
 	n = parse(argv[4]);
 	fd = sys3(NR_OPENAT, AT_FDCWD, (long)argv[1], O_WRONLY);
-	if (fd < 0) {
-		say("procfuzz: open: ");
-		say_num(fd);
-		say("\n");
-		return 1;
-	}
+	if (fd < 0)
+		return say_err("procfuzz: ", "open", fd);
 	for (i = first; i < first + n; i++) {
 		make_case(seed, i, stack_end, &fc);
 		counts[fc.kind]++;

@@ -19,12 +19,8 @@ static int run(int argc, char **argv)
 		return 2;
 	}
 	fd = sys3(NR_OPENAT, AT_FDCWD, (long)argv[1], O_WRONLY);
-	if (fd < 0) {
-		say("open: ");
-		say_num(fd);
-		say("\n");
-		return 1;
-	}
+	if (fd < 0)
+		return say_err("", "open", fd);
 	if (streq(argv[2], "empty"))
 		ret = sys3(NR_WRITE, fd, (long)"", 0);
 	else	/* page 0 is never mapped */
